@@ -1,0 +1,23 @@
+# Hidapi::headers   the declarations; what the layers compile against
+# Hidapi::hidapi    the shared library; what the hub links (the demo and the tests link virtualhid instead)
+if(WIN32)
+    find_path(HIDAPI_INCLUDE_DIR hidapi/hidapi.h)
+    find_library(HIDAPI_LIBRARY NAMES hidapi hidapi.dll)
+else()
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(PC_HIDAPI QUIET hidapi-hidraw)
+    find_path(HIDAPI_INCLUDE_DIR hidapi/hidapi.h HINTS ${PC_HIDAPI_INCLUDEDIR})
+    find_library(HIDAPI_LIBRARY NAMES hidapi-hidraw HINTS ${PC_HIDAPI_LIBDIR})
+endif()
+
+include(FindPackageHandleStandardArgs)
+find_package_handle_standard_args(Hidapi REQUIRED_VARS HIDAPI_LIBRARY HIDAPI_INCLUDE_DIR)
+
+if(Hidapi_FOUND AND NOT TARGET Hidapi::headers)
+    add_library(Hidapi::headers INTERFACE IMPORTED)
+    target_include_directories(Hidapi::headers INTERFACE "${HIDAPI_INCLUDE_DIR}")
+    add_library(Hidapi::hidapi UNKNOWN IMPORTED)
+    set_target_properties(Hidapi::hidapi PROPERTIES IMPORTED_LOCATION "${HIDAPI_LIBRARY}")
+    target_link_libraries(Hidapi::hidapi INTERFACE Hidapi::headers)
+endif()
+mark_as_advanced(HIDAPI_INCLUDE_DIR HIDAPI_LIBRARY)

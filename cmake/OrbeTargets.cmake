@@ -18,7 +18,7 @@ endif()
 add_library(orbe_qt_options INTERFACE)
 target_link_libraries(orbe_qt_options INTERFACE orbe_options)
 target_compile_definitions(orbe_qt_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII
-    QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT QT_USE_QSTRINGBUILDER)
+    QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT)
 
 function(orbe_qt_target name)
     target_link_libraries(${name} PRIVATE orbe_qt_options)
@@ -48,13 +48,15 @@ function(orbe_program name)
 endfunction()
 
 # orbe_test(<name> SOURCES ... [LINKS ...] [TIMEOUT seconds])
-# A Qt Test program, run by CTest without a screen.
+# A Qt Test program, run by CTest without a screen and, where it needs hidapi, on the virtual keyboards.
 function(orbe_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     orbe_qt_target(${name})
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test)
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests/${name}")
+    set_target_properties(${name} PROPERTIES
+        ORBE_VIRTUAL_HID ON
+        RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests/${name}")
     add_test(NAME ${name} COMMAND ${name})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 60)

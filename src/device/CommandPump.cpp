@@ -1,0 +1,132 @@
+#include "CommandPump.h"
+
+#include "DeviceLog.h"
+#include "Framing.h"
+#include "HidHandle.h"
+
+#include <array>
+#include <hidapi/hidapi.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto DeferredKickDelay = 5ms;
+constexpr auto WiredReplyDelay = 20ms;
+constexpr auto WirelessReplyDelay = 100ms;
+constexpr auto NextCommandDelay = 10ms;
+constexpr auto WirelessReadLimit = 400ms;
+constexpr size_t ReplyBufferLength = 1024;
+
+using ReplyBuffer = std::array<quint8, ReplyBufferLength>;
+
+/// Null if there is no reply.
+QByteArray takeWiredReply(hid_device *device)
+{
+    ReplyBuffer buffer{};
+    const int result = hid_get_feature_report(device, buffer.data(), framing::WiredReportLength);
+    return framing::unwrapWired(buffer, result);
+}
+
+QByteArray takeWirelessReply(hid_device *device)
+{
+    ReplyBuffer buffer{};
+    const auto read = [&buffer, device] {
+        buffer.fill(0);
+        return hid_read_timeout(device, buffer.data(), framing::WirelessReportLength,
+                                int(WirelessReadLimit.count()));
+    };
+    int result = read();
+    if (framing::isWirelessNotice(buffer))
+        result = read();
+    return framing::unwrapWireless(buffer, result);
+}
+
+} // namespace
+
+CommandPump::CommandPump(QObject *parent)
+    : QObject(parent)
+{
+    sendTimer.setSingleShot(true);
+    sendTimer.setTimerType(Qt::PreciseTimer);
+    connect(&sendTimer, &QTimer::timeout, this, &CommandPump::pumpStep);
+}
+
+void CommandPump::setLink(const HidHandle *handle, bool wireless)
+{
+    ++linkNumber;
+    sendTimer.stop();
+    link = handle;
+    isWireless = wireless;
+}
+
+bool CommandPump::isConnected() const
+{
+    return link && *link;
+}
+
+void CommandPump::enqueue(const QByteArray &command, Kick kick)
+{
+    if (!isConnected())
+        return;
+    if (command.isEmpty()) {
+        qCDebug(lcDevice) << "An empty command is not sent";
+        return;
+    }
+    sendQueue.append(command);
+    if (kick == Kick::Immediate)
+        pumpStep();
+    else
+        sendTimer.start(DeferredKickDelay);
+}
+
+void CommandPump::armStep(std::chrono::milliseconds delay, void (CommandPump::*step)())
+{
+    QTimer::singleShot(delay, Qt::PreciseTimer, this, [this, step, armedFor = linkNumber] {
+        if (armedFor == linkNumber)
+            (this->*step)();
+    });
+}
+
+void CommandPump::pumpStep()
+{
+    if (!isConnected())
+        return;
+    if (sendQueue.isEmpty()) {
+        Q_EMIT drained();
+        return;
+    }
+    lastCommand = framing::close(sendQueue.takeFirst());
+    if (isWireless) {
+        armStep(WirelessReplyDelay, &CommandPump::readStep);
+        send(framing::wrapWireless(lastCommand));
+    } else {
+        send(framing::wrapWired(lastCommand));
+        armStep(WiredReplyDelay, &CommandPump::readStep);
+    }
+}
+
+void CommandPump::send(const QByteArray &report)
+{
+    // A write that fails changes nothing here: the answer that doesn't come is what stops the pump.
+    const auto *data = reinterpret_cast<const unsigned char *>(report.constData());
+    const int result = isWireless ? hid_write(link->get(), data, size_t(report.size()))
+                                  : hid_send_feature_report(link->get(), data, size_t(report.size()));
+    if (result < 0)
+        qCDebug(lcDevice) << "Command" << Qt::hex << quint8(lastCommand.at(0)) << "was not taken";
+}
+
+void CommandPump::readStep()
+{
+    if (!isConnected())
+        return;
+    const quint64 readFor = linkNumber;
+    const QByteArray reply = isWireless ? takeWirelessReply(link->get()) : takeWiredReply(link->get());
+    if (reply.isNull()) {
+        qCDebug(lcDevice) << "No answer;" << sendQueue.size() << "commands wait";
+        return;
+    }
+    Q_EMIT replied(reply);
+    if (readFor == linkNumber)
+        armStep(NextCommandDelay, &CommandPump::pumpStep);
+}

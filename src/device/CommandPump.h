@@ -1,0 +1,63 @@
+#pragma once
+
+#include <chrono>
+#include <QByteArray>
+#include <QList>
+#include <QObject>
+#include <QTimer>
+
+class HidHandle;
+
+/// Sends queued commands one after the other and takes their answers, at the pace that the keyboard's
+/// firmware was promised. GUI thread only; the HID calls block it, a wireless read for up to 400 ms, twice.
+///
+/// There is no notion of a command in flight: every step arms its own read, and a kick doesn't wait for an
+/// earlier one. An answer that doesn't come stops the pump, and the queue waits for the next kick.
+class CommandPump : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Kick {
+        Deferred, ///< 5 ms after the last of a burst
+        Immediate ///< one step now
+    };
+
+    explicit CommandPump(QObject *parent = nullptr);
+
+    /// Sends over this handle from now on; null disconnects. Steps armed before do nothing any more. The
+    /// handle must outlive the link or be unlinked first. The queue keeps its commands.
+    void setLink(const HidHandle *handle, bool wireless);
+    bool isConnected() const;
+
+    /// Queues a bare command and kicks the pump. Dropped without a word while there is no link; an empty
+    /// command is dropped too.
+    void enqueue(const QByteArray &command, Kick kick);
+    void clearQueue() { sendQueue.clear(); }
+    qsizetype queueLength() const { return sendQueue.size(); }
+
+    /// The last frame sent, with its checksum, before the transport's wrapping; empty before the first.
+    const QByteArray &lastFrame() const { return lastCommand; }
+
+public Q_SLOTS:
+    /// Takes one answer, whatever was sent, and goes on with the queue 10 ms later.
+    void readStep();
+
+Q_SIGNALS:
+    /// An answer, without its transport header; may be empty or of any other length.
+    void replied(const QByteArray &reply);
+    /// A step found nothing to send.
+    void drained();
+
+private:
+    void pumpStep();
+    void armStep(std::chrono::milliseconds delay, void (CommandPump::*step)());
+    void send(const QByteArray &report);
+
+    QList<QByteArray> sendQueue;
+    QByteArray lastCommand;
+    QTimer sendTimer;
+    const HidHandle *link = nullptr;
+    bool isWireless = false;
+    quint64 linkNumber = 0; ///< tells a step which link it was armed for
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+/// The connection, its handles and its files.
+Q_DECLARE_LOGGING_CATEGORY(lcDevice)

@@ -1,0 +1,170 @@
+#include "DialogDeviceConnect.h"
+
+#include "CommandCatalogue.h"
+#include "CommandRows.h"
+#include "ConsoleLog.h"
+#include "ConsoleTable.h"
+#include "DeviceLog.h"
+#include "ReadSequence.h"
+#include "ui_DialogDeviceConnect.h"
+
+#include <algorithm>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSettings>
+#include <QWindow>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto InputPollPeriod = 20ms;
+constexpr auto HotplugQuiet = 800ms;
+constexpr auto ProfileReadDelay = 500ms;
+constexpr auto ReadDoneDelay = 50ms;
+
+constexpr int MaxCommandLength = 64;
+constexpr int ProfileCommandLength = 12;
+
+DialogDeviceConnect *theInstance = nullptr;
+
+CommandPump::Kick kick(bool immediate)
+{
+    return immediate ? CommandPump::Kick::Immediate : CommandPump::Kick::Deferred;
+}
+
+} // namespace
+
+DialogDeviceConnect::DialogDeviceConnect(QWidget *parent)
+    : QDialog(parent)
+    , ui(std::make_unique<Ui::DialogDeviceConnect>())
+    , settings(new QSettings(QCoreApplication::applicationDirPath() + QStringLiteral("/config/device.ini"),
+                             QSettings::IniFormat, this))
+{
+    theInstance = this;
+    ui->setupUi(this);
+    rows = new CommandRows(this);
+    table = new ConsoleTable(ui->tableView, rows, this);
+    log = new ConsoleLog(ui->plainTextEdit, this);
+    ui->lineEditVID->setText(settings->value(QStringLiteral("lastVID"), QStringLiteral("3151")).toString());
+    ui->lineEditPID->setText(settings->value(QStringLiteral("lastPID"), QStringLiteral("502F")).toString());
+    connectControls();
+    startTimers();
+}
+
+DialogDeviceConnect::~DialogDeviceConnect()
+{
+    pump.setLink(nullptr, false);
+    theInstance = nullptr;
+}
+
+DialogDeviceConnect *DialogDeviceConnect::instance()
+{
+    return theInstance;
+}
+
+void DialogDeviceConnect::connectControls()
+{
+    connect(table, &ConsoleTable::rowChosen, this, &DialogDeviceConnect::BuildRowCommand);
+    connect(&pump, &CommandPump::replied, this, &DialogDeviceConnect::handleReply);
+    connect(&pump, &CommandPump::drained, this, &DialogDeviceConnect::endReadSequence);
+    connect(ui->pushButtonConnect, &QPushButton::clicked, this, &DialogDeviceConnect::connectStep);
+    connect(ui->pushButtonRefresh, &QPushButton::clicked, this, &DialogDeviceConnect::refreshStep);
+    connect(ui->pushButtonRead, &QPushButton::clicked, &pump, &CommandPump::readStep);
+    connect(ui->pushButtonWrite, &QPushButton::clicked, this, &DialogDeviceConnect::writeStep);
+    connect(ui->pushButtonSaveMatrix, &QPushButton::clicked, this, &DialogDeviceConnect::saveMatrix);
+    connect(ui->comboBoxPID, &QComboBox::currentTextChanged, this, [this](const QString &pid) {
+        ui->lineEditPID->setText(pid);
+        connectStep();
+    });
+    connect(ui->checkBoxOntop, &QCheckBox::toggled, this, [this](bool onTop) {
+        if (QWindow *window = windowHandle())
+            window->setFlag(Qt::WindowStaysOnTopHint, onTop);
+    });
+}
+
+void DialogDeviceConnect::startTimers()
+{
+    hotplugTimer.setSingleShot(true);
+    hotplugTimer.setTimerType(Qt::PreciseTimer);
+    hotplugTimer.setInterval(HotplugQuiet);
+    connect(&hotplugTimer, &QTimer::timeout, this, &DialogDeviceConnect::refreshStep);
+
+    inputPollTimer.setTimerType(Qt::PreciseTimer);
+    connect(&inputPollTimer, &QTimer::timeout, this, &DialogDeviceConnect::pollInput);
+    inputPollTimer.start(InputPollPeriod);
+}
+
+void DialogDeviceConnect::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        rows->retranslate();
+    }
+    QDialog::changeEvent(event);
+}
+
+void DialogDeviceConnect::DoSendCommand(quint8 command, int length, bool immediate)
+{
+    QByteArray bytes(std::clamp(length, 1, MaxCommandLength), '\0');
+    bytes[0] = char(command);
+    pump.enqueue(bytes, kick(immediate));
+}
+
+void DialogDeviceConnect::DoSendHex(const QString &text, bool immediate)
+{
+    pump.enqueue(QByteArray::fromHex(text.toLatin1()), kick(immediate));
+}
+
+void DialogDeviceConnect::DoSetProfile(quint8 layer)
+{
+    cache.currentProfile = layer;
+    QByteArray command(ProfileCommandLength, '\0');
+    command[0] = char(command::SetProfile);
+    command[1] = char(layer);
+    pump.enqueue(command, CommandPump::Kick::Immediate);
+    QTimer::singleShot(ProfileReadDelay, Qt::PreciseTimer, this, &DialogDeviceConnect::DoReadAll);
+}
+
+void DialogDeviceConnect::DoReadAll()
+{
+    Q_EMIT onReadAll();
+    readingAll = true;
+    musicOn = false;
+    pump.clearQueue();
+    cache.beginRead();
+    const QList<QByteArray> commands = readSequence(cache.currentProfile, cache.versionAtLeast300);
+    for (const QByteArray &command : commands)
+        pump.enqueue(command, CommandPump::Kick::Deferred);
+}
+
+void DialogDeviceConnect::endReadSequence()
+{
+    if (!readingAll)
+        return;
+    readingAll = false;
+    cache.endRead();
+    QTimer::singleShot(ReadDoneDelay, Qt::PreciseTimer, this, &DialogDeviceConnect::onReadDone);
+}
+
+void DialogDeviceConnect::DoFactoryReset()
+{
+    cache.restoreDefaultMatrices();
+    BuildRowCommand(rows->rowOf(command::SetReset), true);
+    DoReadAll();
+}
+
+void DialogDeviceConnect::BuildRowCommand(int row, bool write)
+{
+    if (readingAll || row < 0 || row >= rows->rowCount())
+        return;
+    ui->lineEditCmd->setText(QString::fromLatin1(rows->rowBytes(row).toHex(' ').toUpper()));
+    if (write)
+        writeStep();
+}
+
+void DialogDeviceConnect::writeStep()
+{
+    if (isConnected() && !readingAll)
+        DoSendHex(ui->lineEditCmd->text().trimmed(), true);
+}

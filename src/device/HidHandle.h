@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <QByteArray>
+
+struct hid_device_;
+using hid_device = hid_device_;
+
+/// One open HID device, closed with the object. An object without a device is valid: all it does is answer
+/// "no". Use one object from one thread at a time.
+class HidHandle
+{
+public:
+    HidHandle() = default;
+
+    /// Opens a path that hid_enumerate gave. If that fails the result is empty, and the log names the cause,
+    /// once for each path until it can be opened again. Any thread.
+    static HidHandle open(const QByteArray &path);
+
+    explicit operator bool() const { return device != nullptr; }
+    hid_device *get() const { return device.get(); }
+
+    /// Whether reads without a limit of their own return at once; no-op without a device.
+    void setNonblocking(bool nonblocking);
+    void close() { device.reset(); }
+
+private:
+    struct Closer
+    {
+        void operator()(hid_device *handle) const;
+    };
+    explicit HidHandle(hid_device *handle)
+        : device(handle)
+    {
+    }
+
+    std::unique_ptr<hid_device, Closer> device;
+};

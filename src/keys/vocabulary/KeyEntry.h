@@ -25,7 +25,7 @@ enum : quint8 {
 /// caches. Two entries are the same function only if all four bytes agree. Plain data.
 struct KeyEntry
 {
-    static constexpr int Size = 4;
+    static constexpr qsizetype Size = 4;
 
     std::array<quint8, Size> bytes{};
 

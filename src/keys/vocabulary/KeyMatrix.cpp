@@ -74,16 +74,17 @@ constexpr auto FnKeys = std::to_array<PlacedEntry>({
 
 using MatrixBytes = std::array<quint8, MatrixSize>;
 
-constexpr void place(MatrixBytes &matrix, int offset, const KeyEntry &entry)
+constexpr void place(MatrixBytes &matrix, qsizetype offset, const KeyEntry &entry)
 {
     std::ranges::copy(entry.bytes, matrix.begin() + offset);
 }
 
 constexpr MatrixBytes DefaultKeyMap = [] {
     MatrixBytes matrix{};
-    for (int position = 0; position < int(PlainKeys.size()) * Rows; ++position)
-        place(matrix, position * KeyEntry::Size,
-              {KeyKind::Keys, 0, PlainKeys[position / Rows][position % Rows], 0});
+    for (int position = 0; position < int(PlainKeys.size()) * Rows; ++position) {
+        const quint8 usage = PlainKeys[position / Rows][position % Rows];
+        place(matrix, position * KeyEntry::Size, {KeyKind::Keys, 0, usage, 0});
+    }
     for (const PlacedEntry &key : SpecialKeys)
         place(matrix, key.position * KeyEntry::Size, key.entry);
     return matrix;

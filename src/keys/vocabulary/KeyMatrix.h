@@ -10,7 +10,7 @@
 namespace keys {
 
 inline constexpr int PositionCount = 128;
-inline constexpr int MatrixSize = PositionCount * KeyEntry::Size;
+inline constexpr qsizetype MatrixSize = PositionCount * KeyEntry::Size;
 
 /// Result of PositionOfCode for a code that the keyboard doesn't have.
 inline constexpr quint8 NoPosition = 0xFF;

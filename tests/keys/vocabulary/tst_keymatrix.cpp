@@ -1,0 +1,190 @@
+#include "KeyMatrix.h"
+#include "KeyNameTable.h"
+
+#include <QTest>
+
+/// The default matrices, and the way from a position to a key code and back.
+class TestKeyMatrix : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { factory = keys::defaultKeyMatrix(); }
+    void cleanup() { QVERIFY(keys::SetDefaultKeyMap(factory)); }
+
+    void factoryRowsReadAsOnTheBoard_data();
+    void factoryRowsReadAsOnTheBoard();
+    void keysWithoutPlainUsage_data();
+    void keysWithoutPlainUsage();
+    void everyKeyLeadsBackToItsPosition();
+    void codesThatAreNoKey();
+    void fnLayerStandsOneByteEarlyFromPosition15();
+    void modifiedMeansAnyByteDiffers();
+    void codesAndDefaultsFollowASavedMatrix();
+    void aShortMatrixIsRefused();
+    void entriesOutsideAMatrix_data();
+    void entriesOutsideAMatrix();
+
+private:
+    QByteArray factory;
+};
+
+static QByteArray hexAt(const QByteArray &matrix, int position)
+{
+    return matrix.mid(position * KeyEntry::Size, KeyEntry::Size).toHex(' ').toUpper();
+}
+
+static KeyEntry entryOf(const QByteArray &hex)
+{
+    return keys::entryAt(QByteArray::fromHex(hex), 0);
+}
+
+void TestKeyMatrix::factoryRowsReadAsOnTheBoard_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("names"); // two blanks apart; -- for a hole or a key without a name
+    QTest::newRow("function keys") << 0
+                                   << "Esc  F1  F2  F3  F4  F5  F6  F7  F8  F9  F10  F11  F12  Delete  --";
+    QTest::newRow("digits")
+        << 1 << "` ~  1 !  2 @  3 #  4 $  5 %  6 ^  7 &  8 *  9 (  0 )  - _  = +  BackSpace  Home";
+    QTest::newRow("upper letters") << 2 << "Tab  Q  W  E  R  T  Y  U  I  O  P  [ {  ] }  \\ |  Pgup";
+    QTest::newRow("home letters") << 3 << "Caps-Lock  A  S  D  F  G  H  J  K  L  ; :  ' \"  --  Enter  Pgdn";
+    QTest::newRow("lower letters") << 4 << "L-Shift  --  Z  X  C  V  B  N  M  , <  . >  / ?  R-Shift  ↑  End";
+    QTest::newRow("thumb row")
+        << 5 << "L-Ctrl  L-Win  L-Alt  --  --  --  Space  --  --  R-Alt  --  R-Ctrl  ←  ↓  →";
+}
+
+void TestKeyMatrix::factoryRowsReadAsOnTheBoard()
+{
+    QFETCH(int, row);
+    QFETCH(QString, names);
+    QStringList found;
+    for (int position = row; position < 90; position += 6) {
+        const QString name = keys::KeyNameByCode(keys::CodeOfPosition(quint8(position)));
+        found += name.isEmpty() ? QStringLiteral("--") : name;
+        if (!name.isEmpty())
+            QCOMPARE(keys::defaultKeyMatrix().mid(position * KeyEntry::Size, 2).toHex(), QByteArray("0000"));
+    }
+    QCOMPARE(found.join(QStringLiteral("  ")), names);
+}
+
+void TestKeyMatrix::keysWithoutPlainUsage_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("entry");
+    QTest::newRow("Fn") << 65 << 0xFA << QByteArray("0A 01 00 00");
+    QTest::newRow("knob, volume down") << 90 << 0xEA << QByteArray("03 00 EA 00");
+    QTest::newRow("knob, volume up") << 91 << 0xE9 << QByteArray("03 00 E9 00");
+    QTest::newRow("knob press") << 92 << 0xFB << QByteArray("0A 0E 00 00");
+    QTest::newRow("backlight darker") << 96 << 0xFC << QByteArray("0D 02 02 00");
+    QTest::newRow("backlight brighter") << 97 << 0xFD << QByteArray("0D 02 01 00");
+}
+
+void TestKeyMatrix::keysWithoutPlainUsage()
+{
+    QFETCH(int, position);
+    QFETCH(int, code);
+    QFETCH(QByteArray, entry);
+    QCOMPARE(hexAt(keys::defaultKeyMatrix(), position), entry);
+    QCOMPARE(int(keys::CodeOfPosition(quint8(position))), code);
+    QCOMPARE(int(keys::PositionOfCode(quint8(code))), position);
+}
+
+void TestKeyMatrix::everyKeyLeadsBackToItsPosition()
+{
+    int found = 0;
+    for (int position = 0; position <= 0xFF; ++position) {
+        const quint8 code = keys::CodeOfPosition(quint8(position));
+        if (code == 0)
+            continue;
+        ++found;
+        QCOMPARE(int(keys::PositionOfCode(code)), position);
+    }
+    QCOMPARE(found, 87); // 81 plain keys, Fn, three parts of the knob, two lighting keys
+}
+
+void TestKeyMatrix::codesThatAreNoKey()
+{
+    QCOMPARE(int(keys::PositionOfCode(0)), 10); // the first hole
+    for (const quint8 code : {0x5F, 0xFE, 0xFF})
+        QCOMPARE(keys::PositionOfCode(code), keys::NoPosition);
+}
+
+void TestKeyMatrix::fnLayerStandsOneByteEarlyFromPosition15()
+{
+    const QByteArray start =
+        "00000000 0A020000 00000000 00000000 00000000 0D080000 03009401 00000000 00000000"
+        "00000000 00000000 0A030000 03008A01 00000000 0A0A0000 0000000D 0801000D";
+    const QByteArray &matrix = keys::defaultFnMatrix();
+    QCOMPARE(matrix.size(), 512);
+    QCOMPARE(matrix.left(17 * KeyEntry::Size), QByteArray::fromHex(start));
+    QCOMPARE(matrix.mid(88 * KeyEntry::Size, 8), QByteArray::fromHex("0000000D 03020000")); // right arrow
+    QCOMPARE(matrix.mid(93 * KeyEntry::Size), QByteArray(35 * KeyEntry::Size, '\0'));
+}
+
+void TestKeyMatrix::modifiedMeansAnyByteDiffers()
+{
+    QVERIFY(!keys::IsModifiedEntry(0, entryOf("00002900")));
+    QVERIFY(keys::IsModifiedEntry(0, entryOf("00290000"))); // Esc too, but as a picker gives it
+    QVERIFY(keys::IsModifiedEntry(0, entryOf("01002900")));
+    QVERIFY(keys::IsModifiedEntry(0, entryOf("00002901")));
+    QVERIFY(!keys::IsModifiedEntry(10, {}));
+    QVERIFY(!keys::IsModifiedEntry(128, {})); // past the matrix nothing is the default
+    QVERIFY(keys::IsModifiedEntry(255, entryOf("00002900")));
+}
+
+void TestKeyMatrix::codesAndDefaultsFollowASavedMatrix()
+{
+    QByteArray board = factory;
+    QVERIFY(keys::setEntryAt(board, 0, entryOf("00003500")));   // grave moves to the Esc position
+    QVERIFY(keys::setEntryAt(board, 65, entryOf("00002900")));  // Esc under the Fn position
+    QVERIFY(keys::setEntryAt(board, 127, entryOf("00005F00"))); // a key at the very end
+    QVERIFY(keys::SetDefaultKeyMap(board + QByteArray("surplus")));
+
+    QCOMPARE(keys::defaultKeyMatrix(), board);
+    QCOMPARE(int(keys::PositionOfCode(0x35)), 0); // also still at 1: the first one wins
+    QCOMPARE(int(keys::PositionOfCode(0x29)), 65);
+    QCOMPARE(int(keys::CodeOfPosition(65)), 0xFA); // the own code stays
+    QCOMPARE(int(keys::PositionOfCode(0x5F)), 127);
+    QVERIFY(keys::DefaultEntryAt(0) == entryOf("00003500"));
+    QVERIFY(keys::IsModifiedEntry(0, entryOf("00002900")));
+}
+
+void TestKeyMatrix::aShortMatrixIsRefused()
+{
+    QVERIFY(!keys::SetDefaultKeyMap({}));
+    QVERIFY(!keys::SetDefaultKeyMap(QByteArray(511, '\x04')));
+    QCOMPARE(keys::defaultKeyMatrix(), factory);
+}
+
+void TestKeyMatrix::entriesOutsideAMatrix_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<bool>("held");
+    QTest::newRow("nothing read yet") << 0 << 0 << false;
+    QTest::newRow("cut inside the entry") << 15 << 3 << false;
+    QTest::newRow("last entry") << 16 << 3 << true;
+    QTest::newRow("past the end") << 512 << 128 << false;
+    QTest::newRow("negative") << 512 << -1 << false;
+    QTest::newRow("far past any matrix") << 512 << 0x40000000 << false;
+}
+
+void TestKeyMatrix::entriesOutsideAMatrix()
+{
+    QFETCH(int, size);
+    QFETCH(int, position);
+    QFETCH(bool, held);
+    const KeyEntry before = held ? entryOf("07070707") : KeyEntry{};
+    const KeyEntry written = entryOf("09020500");
+    QByteArray matrix(size, '\x07');
+    QVERIFY(keys::entryAt(matrix, position) == before);
+    QCOMPARE(keys::setEntryAt(matrix, position, written), held);
+    QVERIFY(keys::entryAt(matrix, position) == (held ? written : KeyEntry{}));
+    QCOMPARE(matrix.size(), size);
+    QCOMPARE(matrix.count('\x07'), held ? size - 4 : size);
+}
+
+QTEST_GUILESS_MAIN(TestKeyMatrix)
+#include "tst_keymatrix.moc"

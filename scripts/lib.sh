@@ -1,0 +1,60 @@
+# Shared by the scripts in this folder; sourced, not run.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+
+say() { printf '%s: %s\n' "${0##*/}" "$*"; }
+
+# One clear line and a non-zero exit.
+die() {
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+# Runs a command as root: directly, or by sudo where there is one.
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        die "this needs root or sudo: $*"
+    fi
+}
+
+# Configures (once) and builds a preset, quietly; the whole output goes to build/<preset>/build.log.
+build_preset() { # preset, targets ...
+    local preset=$1 log=build/$1/build.log
+    shift
+    mkdir -p "build/$preset"
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        cmake --preset "$preset" >"$log" 2>&1 || die "configuring failed, see $log"
+    fi
+    local args=()
+    [ $# = 0 ] || args=(--target "$@")
+    cmake --build "build/$preset" -j "$(nproc)" "${args[@]}" >"$log" 2>&1 || {
+        grep -E 'error|Error|FAILED' "$log" | head -n 5 >&2 || true
+        die "the build failed, see $log"
+    }
+}
+
+# Starts a private X server with a window manager and sets DISPLAY; both end with this script.
+start_xvfb() {
+    local number_file
+    number_file=$(mktemp)
+    Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
+    xvfb_pid=$!
+    for _ in $(seq 100); do
+        [ -s "$number_file" ] && break
+        sleep 0.05
+    done
+    [ -s "$number_file" ] || die "Xvfb didn't start"
+    export DISPLAY=":$(cat "$number_file")"
+    rm -f "$number_file"
+    unset WAYLAND_DISPLAY
+    openbox >/dev/null 2>&1 &
+    openbox_pid=$!
+    trap 'kill "$openbox_pid" "$xvfb_pid" 2>/dev/null || true' EXIT
+}
+
+has_display() { [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; }

@@ -1,0 +1,221 @@
+#include "ConnectedKeyboard.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QTest>
+
+using virtualhid::Fault;
+using virtualhid::VirtualBus;
+
+/// How the connection opens its keyboard, loses it and finds it again.
+class TestConnecting : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void wiredOpensThreeHandlesAndIdentifies();
+    void wirelessOpensOneHandle();
+    void sameDeviceConnectsOnce();
+    void failedOpens_data();
+    void failedOpens();
+    void unusableIds_data();
+    void unusableIds();
+    void nothingIsSentWithoutKeyboard();
+    void unplugAndReplug();
+    void burstOfChangesIsOneRefresh();
+    void refreshOffersWhatIsThere();
+    void idsAreKept();
+    void unwritableIdsDontStopIt();
+};
+
+void TestConnecting::wiredOpensThreeHandlesAndIdentifies()
+{
+    ConnectedKeyboard link("wired-500");
+    QSignalSpy connected(&link.connection, &DialogDeviceConnect::onConnect);
+    QSignalSpy layer(&link.connection, &DialogDeviceConnect::onUpdataLayer);
+    link.connectDevice();
+    QCOMPARE(connected.size(), 1);
+    QCOMPARE(link.keyboard->openHandles(), 3);
+    QVERIFY(layer.wait());
+    QCOMPARE(link.commands(), QByteArray("1B 8F 89 84 04"));
+    QCOMPARE(link.frame(0), QByteArray("1B 01 00 00 00 00 00 E3"));
+    QCOMPARE(link.control<QLabel>("labelVersion")->text(), QStringLiteral("Ver:0x512 Id:2807[AF7]"));
+    QCOMPARE(link.connection.deviceCache().deviceId, 0x0AF7u);
+}
+
+void TestConnecting::wirelessOpensOneHandle()
+{
+    ConnectedKeyboard link("bluetooth");
+    QSignalSpy connected(&link.connection, &DialogDeviceConnect::onConnect);
+    link.connectDevice();
+    QCOMPARE(connected.size(), 1);
+    QCOMPARE(link.keyboard->openHandles(), 1);
+    QVERIFY(link.waitForFrames(1));
+    QCOMPARE(bytesOf(link.keyboard->frames().front().report).first(10),
+             QByteArray::fromHex("06558F00000000000070"));
+}
+
+void TestConnecting::sameDeviceConnectsOnce()
+{
+    ConnectedKeyboard link("wired-500");
+    link.connectDevice();
+    link.connectDevice();
+    QCOMPARE(VirtualBus::instance().counters().opens, 3u);
+    const sim::Model &model = link.keyboard->model();
+    link.connection.DoConnectDevice(model.vendorId, model.productId, false, QStringLiteral("another"),
+                                    QString::fromStdString(link.keyboard->path(sim::Channel::Command)));
+    QCOMPARE(VirtualBus::instance().counters().opens, 6u);
+    QCOMPARE(link.keyboard->openHandles(), 3);
+}
+
+void TestConnecting::failedOpens_data()
+{
+    QTest::addColumn<QByteArray>("model");
+    QTest::addColumn<bool>("denied");
+    QTest::addColumn<int>("connects");
+    QTest::addColumn<int>("disconnects");
+    QTest::addColumn<QString>("cause");
+    const QString permission = QStringLiteral("70-orbehub.rules");
+    QTest::newRow("wired, no permission") << QByteArray("wired-500") << true << 0 << 1 << permission;
+    QTest::newRow("wireless, no permission") << QByteArray("bluetooth") << true << 1 << 0 << permission;
+    QTest::newRow("wired, broken node")
+        << QByteArray("wired-500") << false << 0 << 1 << QStringLiteral("Can't open");
+}
+
+void TestConnecting::failedOpens()
+{
+    QFETCH(QByteArray, model);
+    QFETCH(bool, denied);
+    QFETCH(QString, cause);
+    ConnectedKeyboard link(model);
+    if (denied)
+        link.keyboard->denyOpens(true);
+    else
+        link.keyboard->failOpens(3);
+    QSignalSpy connected(&link.connection, &DialogDeviceConnect::onConnect);
+    QSignalSpy disconnected(&link.connection, &DialogDeviceConnect::onDisconnect);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(cause));
+    link.connectDevice();
+    QTEST(int(connected.size()), "connects");
+    QTEST(int(disconnected.size()), "disconnects");
+    QTest::qWait(300);
+    QCOMPARE(link.keyboard->frameCount(), size_t(0));
+    QVERIFY(!link.connection.isConnected());
+}
+
+void TestConnecting::unusableIds_data()
+{
+    QTest::addColumn<QString>("vid");
+    QTest::addColumn<QString>("pid");
+    QTest::newRow("empty") << QString() << QString();
+    QTest::newRow("no hex") << QStringLiteral("keyboard") << QStringLiteral("502F");
+    QTest::newRow("zero, which would mean any device") << QStringLiteral("0000") << QStringLiteral("0");
+    QTest::newRow("too long") << QStringLiteral("3151") << QStringLiteral("502F502F");
+}
+
+void TestConnecting::unusableIds()
+{
+    QFETCH(QString, vid);
+    QFETCH(QString, pid);
+    ConnectedKeyboard link("wired-500");
+    QSignalSpy disconnected(&link.connection, &DialogDeviceConnect::onDisconnect);
+    link.control<QLineEdit>("lineEditVID")->setText(vid);
+    link.control<QLineEdit>("lineEditPID")->setText(pid);
+    link.control<QPushButton>("pushButtonConnect")->click();
+    QCOMPARE(disconnected.size(), 1);
+    QCOMPARE(link.keyboard->openHandles(), 0);
+}
+
+void TestConnecting::nothingIsSentWithoutKeyboard()
+{
+    ConnectedKeyboard link("wired-500");
+    link.connection.DoSendCommand(0x8F, 1, true);
+    link.connection.DoSendHex(QStringLiteral("84"), false);
+    link.connectDevice();
+    QVERIFY(link.waitForFrames(2));
+    QVERIFY2(link.commands().startsWith("1B 8F"), link.commands());
+}
+
+void TestConnecting::unplugAndReplug()
+{
+    ConnectedKeyboard link("wired-500");
+    QVERIFY(link.readAll());
+    QSignalSpy disconnected(&link.connection, &DialogDeviceConnect::onDisconnect);
+    VirtualBus::instance().unplug(link.keyboard);
+    // A command whose answer is still to come when the keyboard goes: its steps must find nothing to do.
+    link.connection.DoSendCommand(0x83, 8, true);
+    link.connection.deviceChanged();
+    QVERIFY(disconnected.wait());
+    QVERIFY(!link.connection.isConnected());
+
+    VirtualBus::instance().replug(link.keyboard);
+    link.connection.deviceChanged();
+    QVERIFY(link.readDone.wait(10000));
+    QVERIFY(link.connection.isConnected());
+    QCOMPARE(link.keyboard->openHandles(), 3);
+    QCOMPARE(VirtualBus::instance().counters().misuses, 0u);
+}
+
+void TestConnecting::burstOfChangesIsOneRefresh()
+{
+    ConnectedKeyboard link("wired-500");
+    link.connectDevice();
+    QSignalSpy connected(&link.connection, &DialogDeviceConnect::onConnect);
+    QElapsedTimer sinceLast;
+    for (int i = 0; i < 20; ++i) {
+        link.connection.deviceChanged();
+        sinceLast.start();
+        QTest::qWait(10);
+    }
+    QVERIFY(connected.wait());
+    QVERIFY(sinceLast.elapsed() >= 799);
+    QCOMPARE(connected.size(), 1);
+}
+
+void TestConnecting::refreshOffersWhatIsThere()
+{
+    ConnectedKeyboard link("wired-500");
+    const auto other = VirtualBus::instance().plug("wired-300");
+    link.control<QLineEdit>("lineEditPID")->setText(QStringLiteral(" 5030 "));
+    link.control<QPushButton>("pushButtonRefresh")->click();
+    auto *combo = link.control<QComboBox>("comboBoxPID");
+    QCOMPARE(combo->count(), 2);
+    QCOMPARE(combo->currentText(), QStringLiteral("5030"));
+    QCOMPARE(other->openHandles(), 3);
+
+    combo->setCurrentText(QStringLiteral("502F"));
+    QCOMPARE(link.control<QLineEdit>("lineEditPID")->text(), QStringLiteral("502F"));
+    QCOMPARE(other->openHandles(), 0);
+    QCOMPARE(link.keyboard->openHandles(), 3);
+}
+
+void TestConnecting::idsAreKept()
+{
+    {
+        ConnectedKeyboard link("wired-300");
+        link.connectDevice();
+    }
+    const DialogDeviceConnect again;
+    QCOMPARE(again.findChild<QLineEdit *>(QStringLiteral("lineEditPID"))->text(), QStringLiteral("5030"));
+}
+
+void TestConnecting::unwritableIdsDontStopIt()
+{
+    // A folder in the place of the file can't be written even by an administrator.
+    const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/config/device.ini");
+    QFile::remove(path);
+    QVERIFY(QDir().mkpath(path + QStringLiteral("/x")));
+    {
+        ConnectedKeyboard link("wired-500");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Can't keep the ids")));
+        link.connectDevice();
+        QVERIFY(link.connection.isConnected());
+    }
+    QVERIFY(QDir(path).removeRecursively());
+}
+
+QTEST_MAIN(TestConnecting)
+#include "tst_connecting.moc"

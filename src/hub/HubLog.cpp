@@ -1,0 +1,3 @@
+#include "HubLog.h"
+
+Q_LOGGING_CATEGORY(lcHub, "orbe.hub")

@@ -11,11 +11,12 @@ namespace sim {
 /// What a plugged device may have different from its model's row.
 struct DeviceOptions
 {
-    std::optional<std::uint16_t> vendorId;
-    std::optional<std::uint16_t> productId;
-    std::optional<std::uint32_t> deviceId;
-    std::optional<std::uint16_t> firmware;
-    std::string serial;
+    std::optional<std::uint16_t> vendorId{};
+    std::optional<std::uint16_t> productId{};
+    std::optional<std::uint32_t> deviceId{};
+    std::optional<std::uint16_t> firmware{};
+    std::string serial{};
+    Byte battery = 80; ///< percent
 };
 
 /// How a receiver behaves towards its keyboard.
@@ -28,7 +29,7 @@ struct ReceiverScript
 
 enum class ReportType : Byte { Feature, Output };
 
-/// What a device sends back for a report.
+/// What a device sends back for a report of the host.
 struct Reply
 {
     bool asInput = false;   ///< an input report; otherwise it waits for a feature read
@@ -41,6 +42,10 @@ struct Outcome
 {
     bool accepted = true; ///< false: the write fails
     std::optional<Reply> reply;
+
+    static Outcome refused() { return {false, {}}; }
+    static Outcome silent() { return {}; }
+    static Outcome answered(Reply reply) { return {true, std::move(reply)}; }
 };
 
 /// A device at its HID interfaces. Not thread-safe: its front end holds a lock.
@@ -64,12 +69,16 @@ public:
     virtual Firmware *firmware();
     /// Does nothing for a device that is no receiver.
     virtual void setReceiver(const ReceiverScript &script);
+    /// What was wrong with the reports so far.
+    FrameFaults frameFaults();
 
 protected:
     explicit Device(const Model &model)
         : row(model)
     {
     }
+
+    FrameFaults faults; ///< found before a frame reached the keyboard's firmware
 
 private:
     Model row;

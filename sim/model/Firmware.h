@@ -15,7 +15,11 @@ struct FrameFaults
     unsigned misrouted = 0;    ///< wrong report id, prefix or kind of report; not executed
 
     bool operator==(const FrameFaults &) const = default;
+    FrameFaults operator+(const FrameFaults &other) const;
 };
+
+/// The reply to the identity command.
+Page identityPage(std::uint32_t id, std::uint16_t version);
 
 /// The program inside a native keyboard: executes commands, whatever transport brought them.
 class Firmware
@@ -34,14 +38,8 @@ public:
 
     std::uint32_t id() const { return deviceId; }
     std::uint16_t version() const { return firmwareVersion; }
-    /// The reply to the identity command.
-    Page identity() const;
 
 private:
-    struct Command;
-
-    static const Command *findCommand(Byte number);
-
     std::uint32_t deviceId;
     std::uint16_t firmwareVersion;
 };

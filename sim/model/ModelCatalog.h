@@ -71,6 +71,8 @@ struct Model
     std::array<Channel, 3> channels;
     std::size_t channelCount;
     std::string_view paired = {}; ///< model of the keyboard behind a receiver
+
+    constexpr std::span<const Channel> channelList() const { return {channels.data(), channelCount}; }
 };
 
 constexpr std::array UsbKeyboardChannels{Channel::BootKeyboard, Channel::KeyTest, Channel::Command};

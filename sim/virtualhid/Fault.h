@@ -37,10 +37,10 @@ private:
 /// first that applies is used up by one; a frame meets at most one rule.
 struct FaultRule
 {
-    std::optional<std::size_t> frame;    ///< number of the frame, 0 being the next one received
-    std::optional<sim::Byte> command;    ///< only frames with this command byte
+    std::optional<std::size_t> frame{};  ///< number of the frame, 0 being the next one received
+    std::optional<sim::Byte> command{};  ///< only frames with this command byte
     std::optional<std::size_t> times{1}; ///< how often it applies; empty means always
-    Fault fault;
+    Fault fault{};
 };
 
 template <typename Member, typename Value>

@@ -10,6 +10,7 @@
 
 namespace virtualhid {
 
+struct DeviceRecord;
 class VirtualDevice;
 using DevicePtr = std::shared_ptr<VirtualDevice>;
 
@@ -34,6 +35,10 @@ public:
     std::vector<Transfer> transfers() const;   ///< the same with reads and their results
     std::size_t frameCount() const;
     void clearLog();
+    /// Keeps only that many of the latest transfers (at first 10,000); 0 for runs that measure memory.
+    void setLogLimit(std::size_t transfers);
+    /// How many reports were wrong, and in what way. All zero for a host that keeps to the protocol.
+    sim::FrameFaults frameFaults() const;
 
     // What goes wrong
 
@@ -62,21 +67,23 @@ public:
     /// Puts any input report (its id first) into the queues of that channel's open handles.
     void injectInput(sim::Channel channel, const sim::Bytes &report);
 
-    // What the firmware holds (keyboards and the keyboard behind a receiver; others throw std::logic_error)
+    // What the firmware holds (keyboards, or the one behind a receiver; other devices throw std::logic_error)
 
     sim::KeyboardState state() const;                                   ///< a copy
     void edit(const std::function<void(sim::KeyboardState &)> &change); ///< under the lock; keep it short
     sim::LightView light() const;                                       ///< what shines now
-    sim::FrameFaults frameFaults() const;                               ///< frames the firmware complained of
+    bool keyTestRunning() const;
+    bool calibrating() const;
     /// Receiver: whether the keyboard is paired, and after how many status polls it wakes and answers.
     void setReceiver(const sim::ReceiverScript &script);
 
-    struct Private;
-
 private:
-    friend class VirtualBus;
-    explicit VirtualDevice(std::unique_ptr<Private> state);
-    std::unique_ptr<Private> d;
+    friend struct BusState;
+
+    explicit VirtualDevice(std::unique_ptr<DeviceRecord> record);
+    sim::Firmware &firmware() const;
+
+    std::unique_ptr<DeviceRecord> record;
 };
 
 } // namespace virtualhid

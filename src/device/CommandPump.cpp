@@ -55,6 +55,7 @@ CommandPump::CommandPump(QObject *parent)
 void CommandPump::setLink(const HidHandle *handle, bool wireless)
 {
     ++linkNumber;
+    ++runNumber;
     sendTimer.stop();
     link = handle;
     isWireless = wireless;
@@ -80,11 +81,22 @@ void CommandPump::enqueue(const QByteArray &command, Kick kick)
         sendTimer.start(DeferredKickDelay);
 }
 
-void CommandPump::armStep(std::chrono::milliseconds delay, void (CommandPump::*step)())
+void CommandPump::restart()
 {
-    QTimer::singleShot(delay, Qt::PreciseTimer, this, [this, step, armedFor = linkNumber] {
-        if (armedFor == linkNumber)
-            (this->*step)();
+    sendQueue.clear();
+    sendTimer.stop();
+    ++runNumber;
+}
+
+void CommandPump::armRead(std::chrono::milliseconds delay)
+{
+    QTimer::singleShot(delay, Qt::PreciseTimer, this, [this, forLink = linkNumber, forRun = runNumber] {
+        if (forLink != linkNumber)
+            return;
+        if (forRun == runNumber)
+            readStep();
+        else
+            takeReply();
     });
 }
 
@@ -98,11 +110,11 @@ void CommandPump::pumpStep()
     }
     lastCommand = framing::close(sendQueue.takeFirst());
     if (isWireless) {
-        armStep(WirelessReplyDelay, &CommandPump::readStep);
+        armRead(WirelessReplyDelay);
         send(framing::wrapWireless(lastCommand));
     } else {
         send(framing::wrapWired(lastCommand));
-        armStep(WiredReplyDelay, &CommandPump::readStep);
+        armRead(WiredReplyDelay);
     }
 }
 
@@ -116,17 +128,24 @@ void CommandPump::send(const QByteArray &report)
         qCDebug(lcDevice) << "Command" << Qt::hex << quint8(lastCommand.at(0)) << "was not taken";
 }
 
-void CommandPump::readStep()
+QByteArray CommandPump::takeReply()
 {
     if (!isConnected())
-        return;
-    const quint64 readFor = linkNumber;
-    const QByteArray reply = isWireless ? takeWirelessReply(link->get()) : takeWiredReply(link->get());
+        return {};
+    return isWireless ? takeWirelessReply(link->get()) : takeWiredReply(link->get());
+}
+
+void CommandPump::readStep()
+{
+    const QByteArray reply = takeReply();
     if (reply.isNull()) {
         qCDebug(lcDevice) << "No answer;" << sendQueue.size() << "commands wait";
         return;
     }
+    const quint64 forRun = runNumber;
     Q_EMIT replied(reply);
-    if (readFor == linkNumber)
-        armStep(NextCommandDelay, &CommandPump::pumpStep);
+    QTimer::singleShot(NextCommandDelay, Qt::PreciseTimer, this, [this, forRun] {
+        if (forRun == runNumber)
+            pumpStep();
+    });
 }

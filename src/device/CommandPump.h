@@ -34,6 +34,10 @@ public:
     /// command is dropped too.
     void enqueue(const QByteArray &command, Kick kick);
     void clearQueue() { sendQueue.clear(); }
+    /// Drops what waits, and starts afresh with one step at a time: answers still to come are taken off the
+    /// link but not handed on, and nothing follows them. A sequence whose answers are filed by order needs
+    /// this.
+    void restart();
     qsizetype queueLength() const { return sendQueue.size(); }
 
     /// The last frame sent, with its checksum, before the transport's wrapping; empty before the first.
@@ -51,7 +55,8 @@ Q_SIGNALS:
 
 private:
     void pumpStep();
-    void armStep(std::chrono::milliseconds delay, void (CommandPump::*step)());
+    void armRead(std::chrono::milliseconds delay);
+    QByteArray takeReply();
     void send(const QByteArray &report);
 
     QList<QByteArray> sendQueue;
@@ -60,4 +65,5 @@ private:
     const HidHandle *link = nullptr;
     bool isWireless = false;
     quint64 linkNumber = 0; ///< tells a step which link it was armed for
+    quint64 runNumber = 0;  ///< and whether the pump was restarted since
 };

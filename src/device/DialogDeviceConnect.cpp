@@ -131,7 +131,8 @@ void DialogDeviceConnect::DoReadAll()
     Q_EMIT onReadAll();
     readingAll = true;
     musicOn = false;
-    pump.clearQueue();
+    // A page that was asked for before must not be filed among those of this sequence.
+    pump.restart();
     cache.beginRead();
     const QList<QByteArray> commands = readSequence(cache.currentProfile, cache.versionAtLeast300);
     for (const QByteArray &command : commands)

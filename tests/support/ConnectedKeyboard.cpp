@@ -25,6 +25,8 @@ ConnectedKeyboard::ConnectedKeyboard(const char *model, const sim::DeviceOptions
         if (layer >= 0 && layer < Layers)
             connection.DoSetProfile(quint8(layer));
     });
+    QObject::connect(&connection, &DialogDeviceConnect::onReadAll, &connection,
+                     [this] { framesBeforeSequence = keyboard->frameCount(); });
 }
 
 ConnectedKeyboard::~ConnectedKeyboard()
@@ -62,11 +64,12 @@ void ConnectedKeyboard::settle() const
     } while (keyboard->frameCount() != before);
 }
 
-QByteArray ConnectedKeyboard::commands() const
+QByteArray ConnectedKeyboard::commands(size_t first) const
 {
+    const auto frames = keyboard->frames();
     QByteArray bytes;
-    for (const virtualhid::ReceivedFrame &received : keyboard->frames())
-        bytes += char(received.command());
+    for (size_t i = first; i < frames.size(); ++i)
+        bytes += char(frames[i].command());
     return bytes.toHex(' ').toUpper();
 }
 

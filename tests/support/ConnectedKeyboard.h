@@ -24,10 +24,12 @@ public:
     /// Waits for nothing more to be sent: the queue is empty and the last answer is taken.
     void settle() const;
 
-    /// Command bytes of the frames received, in order, as hex.
-    QByteArray commands() const;
+    /// Command bytes of the frames received from \a first on, in order, as hex.
+    QByteArray commands(size_t first = 0) const;
     /// First bytes of a frame received.
     QByteArray frame(size_t index, int length = 8) const;
+    /// How many frames had been received when the last read sequence began.
+    size_t sequenceStart() const { return framesBeforeSequence; }
 
     template <typename Widget>
     Widget *control(const char *name)
@@ -38,6 +40,9 @@ public:
     virtualhid::DevicePtr keyboard;
     DialogDeviceConnect connection;
     QSignalSpy readDone{&connection, &DialogDeviceConnect::onReadDone};
+
+private:
+    size_t framesBeforeSequence = 0;
 };
 
 /// Bytes of the virtual keyboard as the product holds them.

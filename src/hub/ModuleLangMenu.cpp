@@ -1,0 +1,69 @@
+#include "ModuleLangMenu.h"
+
+#include "Languages.h"
+#include "ui_ModuleLangMenu.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QPushButton>
+
+namespace {
+
+constexpr QSize ButtonSize(90, 24);
+constexpr QSize MenuSize(110, 280);
+constexpr int ShiftFromButton = 10;
+
+/// The names, translated once: a language is called the same whatever the interface speaks.
+const QStringList &languageNames()
+{
+    static const QStringList names = [] {
+        QStringList list;
+        for (const Language &language : Languages)
+            list += ModuleLangMenu::tr(language.sourceName);
+        return list;
+    }();
+    return names;
+}
+
+} // namespace
+
+ModuleLangMenu::ModuleLangMenu(QWidget *parent)
+    : QDialog(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+    , ui(std::make_unique<Ui::ModuleLangMenu>())
+    , buttons(new QButtonGroup(this))
+{
+    ui->setupUi(this);
+    setAttribute(Qt::WA_TranslucentBackground);
+    for (int index = 0; index < languageNames().size(); ++index) {
+        auto *button = new QPushButton(languageNames().at(index), this);
+        button->setCheckable(true);
+        button->setFixedSize(ButtonSize);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setCursor(Qt::PointingHandCursor);
+        buttons->addButton(button, index);
+        ui->layoutLanguages->addWidget(button, 0, Qt::AlignHCenter);
+    }
+    connect(buttons, &QButtonGroup::idClicked, this, &ModuleLangMenu::choose);
+}
+
+ModuleLangMenu::~ModuleLangMenu() = default;
+
+void ModuleLangMenu::openBelow(const QPoint &bottomLeft)
+{
+    if (!isHidden())
+        return;
+    setGeometry({bottomLeft + QPoint(ShiftFromButton, 0), MenuSize});
+    show();
+}
+
+void ModuleLangMenu::selectLanguage(int index)
+{
+    if (QAbstractButton *button = buttons->button(index))
+        button->click();
+}
+
+void ModuleLangMenu::choose(int index)
+{
+    hide();
+    Q_EMIT onLangChanged(index, languageNames().at(index));
+}

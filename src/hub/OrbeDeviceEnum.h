@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ScanMailbox.h"
+#include "ScanStop.h"
 
 #include <atomic>
 #include <memory>
@@ -65,9 +66,8 @@ private:
     void enumerateDevices(KeptHandles &handles);
 
     const bool tarnwickBuild;
-    std::atomic_bool stopRequested = false;
+    ScanStop stopRequested;
     std::atomic_bool scanRequested = false;
-    std::atomic_bool abandoned = false;
     std::atomic_bool scanning = false;
     std::atomic_bool scanSuspended = false;
     std::atomic_bool windowShown = false;

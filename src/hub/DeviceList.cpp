@@ -1,0 +1,117 @@
+#include "DeviceList.h"
+
+#include "OrbeDeviceEnum.h"
+
+#include <algorithm>
+#include <iterator>
+#include <QDebug>
+#include <QPointer>
+
+namespace {
+
+/// A device that no pass has met for longer than this is taken for gone, even if its path is still there.
+constexpr qint64 OnlineSeconds = 60;
+
+} // namespace
+
+DeviceList::DeviceList(QObject *parent)
+    : QObject(parent)
+{
+}
+
+DeviceList::~DeviceList() = default;
+
+void DeviceList::watch(OrbeDeviceEnum *enumeration)
+{
+    connect(
+        enumeration, &OrbeDeviceEnum::passDone, this,
+        [this, source = QPointer(enumeration)] {
+            if (!source)
+                return;
+            for (const ScanResult &pass : source->takeResults())
+                applyPass(pass);
+        },
+        Qt::QueuedConnection);
+}
+
+int DeviceList::onlineCount() const
+{
+    return int(
+        std::count_if(listed.begin(), listed.end(), [](const auto *device) { return device->online; }));
+}
+
+void DeviceList::clear()
+{
+    std::move(records.begin(), records.end(), std::back_inserter(retired));
+    records.clear();
+    listed.clear();
+}
+
+void DeviceList::addDevice(const DeviceSighting &sighting)
+{
+    if (DeviceEnumInfo *known = recordOf(sighting.devicePath)) {
+        known->deviceId = sighting.deviceId;
+        known->online = true;
+        known->lastSeen = quint32(sighting.seenAt);
+        return;
+    }
+    Record record = newRecord(sighting.devicePath);
+    *record = {.vendorId = sighting.vendorId,
+               .productId = sighting.productId,
+               .deviceId = sighting.deviceId,
+               .deviceType = quint8(sighting.deviceType),
+               .family = sighting.family,
+               .connectionType = quint8(sighting.connection),
+               .online = true,
+               .reserved = 0,
+               .lastSeen = quint32(sighting.seenAt),
+               .displayName = sighting.displayName,
+               .reservedText = {},
+               .vendorPath = sighting.vendorPath,
+               .devicePath = sighting.devicePath};
+    listed.append(record.get());
+    records.push_back(std::move(record));
+}
+
+void DeviceList::applyPass(const ScanResult &pass)
+{
+    for (const DeviceSighting &sighting : pass.sightings)
+        addDevice(sighting);
+    age(pass);
+    Q_EMIT oEnumDeiceDone();
+}
+
+DeviceEnumInfo *DeviceList::recordOf(const QString &devicePath) const
+{
+    const auto found = std::find_if(listed.begin(), listed.end(), [&devicePath](const auto *device) {
+        return device->devicePath == devicePath;
+    });
+    return found == listed.end() ? nullptr : *found;
+}
+
+/// A retired record of the same device is used again, so that years of pressing the scan button hold no more
+/// memory than there are devices. The current one is not: its loss must not be told for a later sighting.
+DeviceList::Record DeviceList::newRecord(const QString &devicePath)
+{
+    const auto old = std::find_if(retired.begin(), retired.end(), [this, &devicePath](const Record &record) {
+        return record->devicePath == devicePath && record.get() != current;
+    });
+    if (old == retired.end())
+        return std::make_unique<DeviceEnumInfo>();
+    Record record = std::move(*old);
+    retired.erase(old);
+    return record;
+}
+
+void DeviceList::age(const ScanResult &pass)
+{
+    for (DeviceEnumInfo *device : listed) {
+        const bool seen = pass.seenPaths.contains(device->devicePath);
+        if (!seen || pass.finishedAt - qint64(device->lastSeen) > OnlineSeconds)
+            device->online = false;
+    }
+    if (current && listed.contains(current) && !pass.seenPaths.contains(current->devicePath)) {
+        qDebug().noquote() << "Lost:" << current->displayName << "Set OrbeReturn 1";
+        Q_EMIT currentDeviceLost();
+    }
+}

@@ -1,0 +1,670 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="zh_CN">
+<context>
+    <name>CommandRows</name>
+    <message>
+        <source>命令,数据长度,Byte0
+命令号(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</source>
+        <translation>コマンド,データ長,Byte0
+コマンド番号 (Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
+    </message>
+</context>
+<context>
+    <name>CustomTabBar</name>
+    <message>
+        <source>选项卡</source>
+        <translation>タブ</translation>
+    </message>
+</context>
+<context>
+    <name>CustumSlider</name>
+    <message>
+        <source>滑块</source>
+        <translation>スライダー</translation>
+    </message>
+</context>
+<context>
+    <name>DemoDesk</name>
+    <message>
+        <source>虚拟设备</source>
+        <translation>仮想デバイス</translation>
+    </message>
+    <message>
+        <source>插入或拔出虚拟设备：</source>
+        <translation>仮想デバイスの接続と取り外し：</translation>
+    </message>
+</context>
+<context>
+    <name>DialogDeviceConnect</name>
+    <message>
+        <source>Orbe Studio 设备调试</source>
+        <translation>Orbe Studio デバイスデバッグ</translation>
+    </message>
+    <message>
+        <source>命令目录</source>
+        <translation>コマンド一覧</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceShow</name>
+    <message>
+        <source>剩余电量</source>
+        <translation>バッテリー残量</translation>
+    </message>
+</context>
+<context>
+    <name>HubTray</name>
+    <message>
+        <source>显示窗口</source>
+        <translation>ウィンドウを表示</translation>
+    </message>
+    <message>
+        <source>隐藏窗口</source>
+        <translation>ウィンドウを隠す</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>終了</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>语言</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>系统设置</source>
+        <translation>システム設定</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>デバイスを検索</translation>
+    </message>
+    <message>
+        <source>我的设备</source>
+        <translation>マイデバイス</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>確認</translation>
+    </message>
+    <message>
+        <source>确定要退出 ORBE 驱动程序？</source>
+        <translation>ORBE ドライバーを終了しますか？</translation>
+    </message>
+    <message>
+        <source>正在搜索设备</source>
+        <translation>デバイスを検索中</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGenKeymapping</name>
+    <message>
+        <source>上一曲</source>
+        <translation>前の曲</translation>
+    </message>
+    <message>
+        <source>下一曲</source>
+        <translation>次の曲</translation>
+    </message>
+    <message>
+        <source>播放/暂停</source>
+        <translation>再生/一時停止</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>ミュート</translation>
+    </message>
+    <message>
+        <source>音量+</source>
+        <translation>音量+</translation>
+    </message>
+    <message>
+        <source>音量-</source>
+        <translation>音量-</translation>
+    </message>
+    <message>
+        <source>播放器</source>
+        <translation>メディアプレーヤー</translation>
+    </message>
+    <message>
+        <source>计算器</source>
+        <translation>電卓</translation>
+    </message>
+    <message>
+        <source>邮件</source>
+        <translation>メール</translation>
+    </message>
+    <message>
+        <source>我的电脑</source>
+        <translation>マイコンピューター</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>主页</source>
+        <translation>ホームページ</translation>
+    </message>
+    <message>
+        <source>后退</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>前进</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>收藏</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>亮度+</source>
+        <translation>画面の明るさ+</translation>
+    </message>
+    <message>
+        <source>亮度-</source>
+        <translation>画面の明るさ-</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>呼出Siri</source>
+        <translation>Siri を呼び出す</translation>
+    </message>
+    <message>
+        <source>切换输入法</source>
+        <translation>入力方式の切り替え</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Fn键锁屏</source>
+        <translation>Fn ロック</translation>
+    </message>
+    <message>
+        <source>锁屏</source>
+        <translation>画面ロック</translation>
+    </message>
+    <message>
+        <source>R-Fn键</source>
+        <translation>R-Fn キー</translation>
+    </message>
+    <message>
+        <source>DPI-Loop</source>
+        <translation>DPI-Loop</translation>
+    </message>
+    <message>
+        <source>DPI+</source>
+        <translation>DPI+</translation>
+    </message>
+    <message>
+        <source>DPI-</source>
+        <translation>DPI-</translation>
+    </message>
+    <message>
+        <source>DPI-Shift</source>
+        <translation>DPI-Shift</translation>
+    </message>
+    <message>
+        <source>电源</source>
+        <translation>電源</translation>
+    </message>
+    <message>
+        <source>睡眠</source>
+        <translation>スリープ</translation>
+    </message>
+    <message>
+        <source>唤醒</source>
+        <translation>スリープ解除</translation>
+    </message>
+    <message>
+        <source>Profile-Value</source>
+        <translation>Profile-Value</translation>
+    </message>
+    <message>
+        <source>Profile+</source>
+        <translation>Profile+</translation>
+    </message>
+    <message>
+        <source>Profile-</source>
+        <translation>Profile-</translation>
+    </message>
+    <message>
+        <source>Profile-Loop</source>
+        <translation>Profile-Loop</translation>
+    </message>
+    <message>
+        <source>Profile-1</source>
+        <translation>Profile-1</translation>
+    </message>
+    <message>
+        <source>Profile-2</source>
+        <translation>Profile-2</translation>
+    </message>
+    <message>
+        <source>Profile-3</source>
+        <translation>Profile-3</translation>
+    </message>
+    <message>
+        <source>Profile-4</source>
+        <translation>Profile-4</translation>
+    </message>
+    <message>
+        <source>Profile-5</source>
+        <translation>Profile-5</translation>
+    </message>
+    <message>
+        <source>L-Fn键</source>
+        <translation>L-Fn キー</translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>工場出荷時に戻す</translation>
+    </message>
+    <message>
+        <source>锁Win</source>
+        <translation>Win ロック</translation>
+    </message>
+    <message>
+        <source>切换Win</source>
+        <translation>Win に切り替え</translation>
+    </message>
+    <message>
+        <source>切换Mac</source>
+        <translation>Mac に切り替え</translation>
+    </message>
+    <message>
+        <source>系统切换</source>
+        <translation>システム切り替え</translation>
+    </message>
+    <message>
+        <source>Check Battery</source>
+        <translation>バッテリー確認</translation>
+    </message>
+    <message>
+        <source>WASD切换</source>
+        <translation>WASD 切り替え</translation>
+    </message>
+    <message>
+        <source>Fn层切换</source>
+        <translation>Fn レイヤー切り替え</translation>
+    </message>
+    <message>
+        <source>设备节能</source>
+        <translation>省電</translation>
+    </message>
+    <message>
+        <source>APP CTRL切换</source>
+        <translation>APP CTRL 切り替え</translation>
+    </message>
+    <message>
+        <source>背光开/关</source>
+        <translation>バックライト オン/オフ</translation>
+    </message>
+    <message>
+        <source>背光灯效循环</source>
+        <translation>バックライト効果の循環</translation>
+    </message>
+    <message>
+        <source>背光灯效+</source>
+        <translation>バックライト効果+</translation>
+    </message>
+    <message>
+        <source>背光灯效-</source>
+        <translation>バックライト効果-</translation>
+    </message>
+    <message>
+        <source>背光亮度循环</source>
+        <translation>バックライト輝度の循環</translation>
+    </message>
+    <message>
+        <source>背光亮度+</source>
+        <translation>バックライト輝度+</translation>
+    </message>
+    <message>
+        <source>背光亮度-</source>
+        <translation>バックライト輝度-</translation>
+    </message>
+    <message>
+        <source>背光速度循环</source>
+        <translation>バックライト速度の循環</translation>
+    </message>
+    <message>
+        <source>背光速度-</source>
+        <translation>バックライト速度-</translation>
+    </message>
+    <message>
+        <source>背光速度+</source>
+        <translation>バックライト速度+</translation>
+    </message>
+    <message>
+        <source>背光方向循环</source>
+        <translation>バックライト方向の循環</translation>
+    </message>
+    <message>
+        <source>背光向左</source>
+        <translation>バックライト左方向</translation>
+    </message>
+    <message>
+        <source>背光向右</source>
+        <translation>バックライト右方向</translation>
+    </message>
+    <message>
+        <source>背光颜色循环</source>
+        <translation>バックライト色の循環</translation>
+    </message>
+    <message>
+        <source>背光颜色+</source>
+        <translation>バックライト色+</translation>
+    </message>
+    <message>
+        <source>背光颜色-</source>
+        <translation>バックライト色-</translation>
+    </message>
+    <message>
+        <source>Use Pic 0</source>
+        <translation>画像 0 を使用</translation>
+    </message>
+    <message>
+        <source>Use Pic 1</source>
+        <translation>画像 1 を使用</translation>
+    </message>
+    <message>
+        <source>Use Pic 2</source>
+        <translation>画像 2 を使用</translation>
+    </message>
+    <message>
+        <source>Use Pic 3</source>
+        <translation>画像 3 を使用</translation>
+    </message>
+    <message>
+        <source>Use Pic 4</source>
+        <translation>画像 4 を使用</translation>
+    </message>
+    <message>
+        <source>Use Pic</source>
+        <translation>画像を使用</translation>
+    </message>
+    <message>
+        <source>侧光开/关</source>
+        <translation>サイドライト オン/オフ</translation>
+    </message>
+    <message>
+        <source>侧光亮度循环</source>
+        <translation>サイドライト輝度の循環</translation>
+    </message>
+    <message>
+        <source>侧光速度循环</source>
+        <translation>サイドライト速度の循環</translation>
+    </message>
+    <message>
+        <source>侧光速度+</source>
+        <translation>サイドライト速度+</translation>
+    </message>
+    <message>
+        <source>侧光速度-</source>
+        <translation>サイドライト速度-</translation>
+    </message>
+    <message>
+        <source>侧光颜色循环</source>
+        <translation>サイドライト色の循環</translation>
+    </message>
+    <message>
+        <source>侧光颜色+</source>
+        <translation>サイドライト色+</translation>
+    </message>
+    <message>
+        <source>侧光颜色-</source>
+        <translation>サイドライト色-</translation>
+    </message>
+    <message>
+        <source>2.4G</source>
+        <translation>2.4G</translation>
+    </message>
+    <message>
+        <source>蓝牙1</source>
+        <translation>Bluetooth 1</translation>
+    </message>
+    <message>
+        <source>蓝牙2</source>
+        <translation>Bluetooth 2</translation>
+    </message>
+    <message>
+        <source>蓝牙3</source>
+        <translation>Bluetooth 3</translation>
+    </message>
+    <message>
+        <source>有线</source>
+        <translation>有線</translation>
+    </message>
+    <message>
+        <source>有线-蓝牙-2.4G</source>
+        <translation>有線-Bluetooth-2.4G</translation>
+    </message>
+    <message>
+        <source>2.4G配对</source>
+        <translation>2.4G ペアリング</translation>
+    </message>
+    <message>
+        <source>蓝牙配对</source>
+        <translation>Bluetooth ペアリング</translation>
+    </message>
+    <message>
+        <source>Insert键</source>
+        <translation>Insert キー</translation>
+    </message>
+    <message>
+        <source>Print Screen键</source>
+        <translation>Print Screen キー</translation>
+    </message>
+    <message>
+        <source>左键单击</source>
+        <translation>左クリック</translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation>右クリック</translation>
+    </message>
+    <message>
+        <source>中键按下</source>
+        <translation>中央クリック</translation>
+    </message>
+    <message>
+        <source>光标前进</source>
+        <translation>マウス進む</translation>
+    </message>
+    <message>
+        <source>光标后退</source>
+        <translation>マウス戻る</translation>
+    </message>
+    <message>
+        <source>滚轮-向左</source>
+        <translation>ホイール左</translation>
+    </message>
+    <message>
+        <source>滚轮-向右</source>
+        <translation>ホイール右</translation>
+    </message>
+    <message>
+        <source>滚轮-向上</source>
+        <translation>ホイール上</translation>
+    </message>
+    <message>
+        <source>滚轮-向下</source>
+        <translation>ホイール下</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>下へスクロール</translation>
+    </message>
+    <message>
+        <source>XUP</source>
+        <translation>XUP</translation>
+    </message>
+    <message>
+        <source>XDOWN</source>
+        <translation>XDOWN</translation>
+    </message>
+    <message>
+        <source>YUP</source>
+        <translation>YUP</translation>
+    </message>
+    <message>
+        <source>YDOWN</source>
+        <translation>YDOWN</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>マクロ設定</translation>
+    </message>
+    <message>
+        <source>功能</source>
+        <translation>機能</translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation>マウス</translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation>組み合わせ</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGeneralMasker</name>
+    <message>
+        <source>对话框</source>
+        <translation>ダイアログ</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleLangMenu</name>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>한국어</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>Русский</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Tiếng Việt</source>
+        <translation>Tiếng Việt</translation>
+    </message>
+    <message>
+        <source>Português</source>
+        <translation>Português</translation>
+    </message>
+    <message>
+        <source>ภาษาไทย</source>
+        <translation>ภาษาไทย</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Svenska</source>
+        <translation>Svenska</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>Türkçe</source>
+        <translation>Türkçe</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleScrollValue</name>
+    <message>
+        <source>数值滚轮</source>
+        <translation>値ホイール</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleVideoItem</name>
+    <message>
+        <source>Movie</source>
+        <translation>Movie</translation>
+    </message>
+    <message>
+        <source>Orbe 7090 操作指南-宏设置</source>
+        <translation>Orbe 7090 操作ガイド：マクロ設定</translation>
+    </message>
+</context>
+<context>
+    <name>ToggleButton</name>
+    <message>
+        <source>开关</source>
+        <translation>スイッチ</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,670 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="th_TH" sourcelanguage="zh_CN">
+<context>
+    <name>CommandRows</name>
+    <message>
+        <source>命令,数据长度,Byte0
+命令号(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</source>
+        <translation>คำสั่ง,ความยาวข้อมูล,Byte0
+หมายเลขคำสั่ง (Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
+    </message>
+</context>
+<context>
+    <name>CustomTabBar</name>
+    <message>
+        <source>选项卡</source>
+        <translation>แท็บ</translation>
+    </message>
+</context>
+<context>
+    <name>CustumSlider</name>
+    <message>
+        <source>滑块</source>
+        <translation>แถบเลื่อน</translation>
+    </message>
+</context>
+<context>
+    <name>DemoDesk</name>
+    <message>
+        <source>虚拟设备</source>
+        <translation>อุปกรณ์เสมือน</translation>
+    </message>
+    <message>
+        <source>插入或拔出虚拟设备：</source>
+        <translation>เสียบหรือถอดอุปกรณ์เสมือน:</translation>
+    </message>
+</context>
+<context>
+    <name>DialogDeviceConnect</name>
+    <message>
+        <source>Orbe Studio 设备调试</source>
+        <translation>ดีบักอุปกรณ์ Orbe Studio</translation>
+    </message>
+    <message>
+        <source>命令目录</source>
+        <translation>รายการคำสั่ง</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceShow</name>
+    <message>
+        <source>剩余电量</source>
+        <translation>แบตเตอรี่คงเหลือ</translation>
+    </message>
+</context>
+<context>
+    <name>HubTray</name>
+    <message>
+        <source>显示窗口</source>
+        <translation>แสดงหน้าต่าง</translation>
+    </message>
+    <message>
+        <source>隐藏窗口</source>
+        <translation>ซ่อนหน้าต่าง</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>ออกจากโปรแกรม</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>语言</source>
+        <translation>ภาษา</translation>
+    </message>
+    <message>
+        <source>系统设置</source>
+        <translation>ตั้งค่าระบบ</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>ย่อหน้าต่าง</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>ปิด</translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>ค้นหาอุปกรณ์</translation>
+    </message>
+    <message>
+        <source>我的设备</source>
+        <translation>อุปกรณ์ของฉัน</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>แจ้งเตือน</translation>
+    </message>
+    <message>
+        <source>确定要退出 ORBE 驱动程序？</source>
+        <translation>ต้องการออกจากไดรเวอร์ ORBE หรือไม่?</translation>
+    </message>
+    <message>
+        <source>正在搜索设备</source>
+        <translation>กำลังค้นหาอุปกรณ์</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGenKeymapping</name>
+    <message>
+        <source>上一曲</source>
+        <translation>เพลงก่อนหน้า</translation>
+    </message>
+    <message>
+        <source>下一曲</source>
+        <translation>เพลงถัดไป</translation>
+    </message>
+    <message>
+        <source>播放/暂停</source>
+        <translation>เล่น/หยุดชั่วคราว</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>หยุด</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>ปิดเสียง</translation>
+    </message>
+    <message>
+        <source>音量+</source>
+        <translation>เสียง +</translation>
+    </message>
+    <message>
+        <source>音量-</source>
+        <translation>เสียง -</translation>
+    </message>
+    <message>
+        <source>播放器</source>
+        <translation>เครื่องเล่นสื่อ</translation>
+    </message>
+    <message>
+        <source>计算器</source>
+        <translation>เครื่องคิดเลข</translation>
+    </message>
+    <message>
+        <source>邮件</source>
+        <translation>อีเมล</translation>
+    </message>
+    <message>
+        <source>我的电脑</source>
+        <translation>คอมพิวเตอร์ของฉัน</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>ค้นหา</translation>
+    </message>
+    <message>
+        <source>主页</source>
+        <translation>โฮมเพจ</translation>
+    </message>
+    <message>
+        <source>后退</source>
+        <translation>ย้อนกลับ</translation>
+    </message>
+    <message>
+        <source>前进</source>
+        <translation>ไปข้างหน้า</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>รีเฟรช</translation>
+    </message>
+    <message>
+        <source>收藏</source>
+        <translation>รายการโปรด</translation>
+    </message>
+    <message>
+        <source>亮度+</source>
+        <translation>ความสว่าง +</translation>
+    </message>
+    <message>
+        <source>亮度-</source>
+        <translation>ความสว่าง -</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>ขยาย</translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation>ย่อ</translation>
+    </message>
+    <message>
+        <source>呼出Siri</source>
+        <translation>เรียก Siri</translation>
+    </message>
+    <message>
+        <source>切换输入法</source>
+        <translation>สลับภาษา</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>กลับ</translation>
+    </message>
+    <message>
+        <source>Fn键锁屏</source>
+        <translation>ล็อกปุ่ม Fn</translation>
+    </message>
+    <message>
+        <source>锁屏</source>
+        <translation>ล็อกหน้าจอ</translation>
+    </message>
+    <message>
+        <source>R-Fn键</source>
+        <translation>ปุ่ม R-Fn</translation>
+    </message>
+    <message>
+        <source>DPI-Loop</source>
+        <translation>DPI-Loop</translation>
+    </message>
+    <message>
+        <source>DPI+</source>
+        <translation>DPI+</translation>
+    </message>
+    <message>
+        <source>DPI-</source>
+        <translation>DPI-</translation>
+    </message>
+    <message>
+        <source>DPI-Shift</source>
+        <translation>DPI-Shift</translation>
+    </message>
+    <message>
+        <source>电源</source>
+        <translation>เปิด/ปิดเครื่อง</translation>
+    </message>
+    <message>
+        <source>睡眠</source>
+        <translation>สลีป</translation>
+    </message>
+    <message>
+        <source>唤醒</source>
+        <translation>ปลุก</translation>
+    </message>
+    <message>
+        <source>Profile-Value</source>
+        <translation>Profile-Value</translation>
+    </message>
+    <message>
+        <source>Profile+</source>
+        <translation>Profile+</translation>
+    </message>
+    <message>
+        <source>Profile-</source>
+        <translation>Profile-</translation>
+    </message>
+    <message>
+        <source>Profile-Loop</source>
+        <translation>Profile-Loop</translation>
+    </message>
+    <message>
+        <source>Profile-1</source>
+        <translation>Profile-1</translation>
+    </message>
+    <message>
+        <source>Profile-2</source>
+        <translation>Profile-2</translation>
+    </message>
+    <message>
+        <source>Profile-3</source>
+        <translation>Profile-3</translation>
+    </message>
+    <message>
+        <source>Profile-4</source>
+        <translation>Profile-4</translation>
+    </message>
+    <message>
+        <source>Profile-5</source>
+        <translation>Profile-5</translation>
+    </message>
+    <message>
+        <source>L-Fn键</source>
+        <translation>ปุ่ม L-Fn</translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>รีเซ็ตเป็นค่าโรงงาน</translation>
+    </message>
+    <message>
+        <source>锁Win</source>
+        <translation>ล็อก Win</translation>
+    </message>
+    <message>
+        <source>切换Win</source>
+        <translation>สลับเป็น Win</translation>
+    </message>
+    <message>
+        <source>切换Mac</source>
+        <translation>สลับเป็น Mac</translation>
+    </message>
+    <message>
+        <source>系统切换</source>
+        <translation>สลับระบบ</translation>
+    </message>
+    <message>
+        <source>Check Battery</source>
+        <translation>ดูแบตเตอรี่</translation>
+    </message>
+    <message>
+        <source>WASD切换</source>
+        <translation>สลับ WASD</translation>
+    </message>
+    <message>
+        <source>Fn层切换</source>
+        <translation>สลับเลเยอร์ Fn</translation>
+    </message>
+    <message>
+        <source>设备节能</source>
+        <translation>ประหยัดพลังงาน</translation>
+    </message>
+    <message>
+        <source>APP CTRL切换</source>
+        <translation>สลับ APP CTRL</translation>
+    </message>
+    <message>
+        <source>背光开/关</source>
+        <translation>เปิด/ปิดไฟพื้นหลัง</translation>
+    </message>
+    <message>
+        <source>背光灯效循环</source>
+        <translation>วนเอฟเฟกต์ไฟ</translation>
+    </message>
+    <message>
+        <source>背光灯效+</source>
+        <translation>เอฟเฟกต์ไฟ +</translation>
+    </message>
+    <message>
+        <source>背光灯效-</source>
+        <translation>เอฟเฟกต์ไฟ -</translation>
+    </message>
+    <message>
+        <source>背光亮度循环</source>
+        <translation>วนความสว่างไฟ</translation>
+    </message>
+    <message>
+        <source>背光亮度+</source>
+        <translation>ความสว่างไฟ +</translation>
+    </message>
+    <message>
+        <source>背光亮度-</source>
+        <translation>ความสว่างไฟ -</translation>
+    </message>
+    <message>
+        <source>背光速度循环</source>
+        <translation>วนความเร็วไฟ</translation>
+    </message>
+    <message>
+        <source>背光速度-</source>
+        <translation>ความเร็วไฟ -</translation>
+    </message>
+    <message>
+        <source>背光速度+</source>
+        <translation>ความเร็วไฟ +</translation>
+    </message>
+    <message>
+        <source>背光方向循环</source>
+        <translation>วนทิศทางไฟ</translation>
+    </message>
+    <message>
+        <source>背光向左</source>
+        <translation>ไฟไปทางซ้าย</translation>
+    </message>
+    <message>
+        <source>背光向右</source>
+        <translation>ไฟไปทางขวา</translation>
+    </message>
+    <message>
+        <source>背光颜色循环</source>
+        <translation>วนสีไฟ</translation>
+    </message>
+    <message>
+        <source>背光颜色+</source>
+        <translation>สีไฟ +</translation>
+    </message>
+    <message>
+        <source>背光颜色-</source>
+        <translation>สีไฟ -</translation>
+    </message>
+    <message>
+        <source>Use Pic 0</source>
+        <translation>ใช้ภาพ 0</translation>
+    </message>
+    <message>
+        <source>Use Pic 1</source>
+        <translation>ใช้ภาพ 1</translation>
+    </message>
+    <message>
+        <source>Use Pic 2</source>
+        <translation>ใช้ภาพ 2</translation>
+    </message>
+    <message>
+        <source>Use Pic 3</source>
+        <translation>ใช้ภาพ 3</translation>
+    </message>
+    <message>
+        <source>Use Pic 4</source>
+        <translation>ใช้ภาพ 4</translation>
+    </message>
+    <message>
+        <source>Use Pic</source>
+        <translation>ใช้ภาพ</translation>
+    </message>
+    <message>
+        <source>侧光开/关</source>
+        <translation>เปิด/ปิดไฟข้าง</translation>
+    </message>
+    <message>
+        <source>侧光亮度循环</source>
+        <translation>วนความสว่างไฟข้าง</translation>
+    </message>
+    <message>
+        <source>侧光速度循环</source>
+        <translation>วนความเร็วไฟข้าง</translation>
+    </message>
+    <message>
+        <source>侧光速度+</source>
+        <translation>ความเร็วไฟข้าง +</translation>
+    </message>
+    <message>
+        <source>侧光速度-</source>
+        <translation>ความเร็วไฟข้าง -</translation>
+    </message>
+    <message>
+        <source>侧光颜色循环</source>
+        <translation>วนสีไฟข้าง</translation>
+    </message>
+    <message>
+        <source>侧光颜色+</source>
+        <translation>สีไฟข้าง +</translation>
+    </message>
+    <message>
+        <source>侧光颜色-</source>
+        <translation>สีไฟข้าง -</translation>
+    </message>
+    <message>
+        <source>2.4G</source>
+        <translation>2.4G</translation>
+    </message>
+    <message>
+        <source>蓝牙1</source>
+        <translation>บลูทูธ 1</translation>
+    </message>
+    <message>
+        <source>蓝牙2</source>
+        <translation>บลูทูธ 2</translation>
+    </message>
+    <message>
+        <source>蓝牙3</source>
+        <translation>บลูทูธ 3</translation>
+    </message>
+    <message>
+        <source>有线</source>
+        <translation>แบบมีสาย</translation>
+    </message>
+    <message>
+        <source>有线-蓝牙-2.4G</source>
+        <translation>มีสาย-บลูทูธ-2.4G</translation>
+    </message>
+    <message>
+        <source>2.4G配对</source>
+        <translation>จับคู่ 2.4G</translation>
+    </message>
+    <message>
+        <source>蓝牙配对</source>
+        <translation>จับคู่บลูทูธ</translation>
+    </message>
+    <message>
+        <source>Insert键</source>
+        <translation>ปุ่ม Insert</translation>
+    </message>
+    <message>
+        <source>Print Screen键</source>
+        <translation>ปุ่ม Print Screen</translation>
+    </message>
+    <message>
+        <source>左键单击</source>
+        <translation>คลิกซ้าย</translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation>คลิกขวา</translation>
+    </message>
+    <message>
+        <source>中键按下</source>
+        <translation>คลิกกลาง</translation>
+    </message>
+    <message>
+        <source>光标前进</source>
+        <translation>เมาส์ไปข้างหน้า</translation>
+    </message>
+    <message>
+        <source>光标后退</source>
+        <translation>เมาส์ย้อนกลับ</translation>
+    </message>
+    <message>
+        <source>滚轮-向左</source>
+        <translation>ล้อเลื่อนซ้าย</translation>
+    </message>
+    <message>
+        <source>滚轮-向右</source>
+        <translation>ล้อเลื่อนขวา</translation>
+    </message>
+    <message>
+        <source>滚轮-向上</source>
+        <translation>ล้อเลื่อนขึ้น</translation>
+    </message>
+    <message>
+        <source>滚轮-向下</source>
+        <translation>ล้อเลื่อนลง</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>เลื่อนขึ้น</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>เลื่อนลง</translation>
+    </message>
+    <message>
+        <source>XUP</source>
+        <translation>XUP</translation>
+    </message>
+    <message>
+        <source>XDOWN</source>
+        <translation>XDOWN</translation>
+    </message>
+    <message>
+        <source>YUP</source>
+        <translation>YUP</translation>
+    </message>
+    <message>
+        <source>YDOWN</source>
+        <translation>YDOWN</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>ตั้งค่ามาโคร</translation>
+    </message>
+    <message>
+        <source>功能</source>
+        <translation>ฟังก์ชัน</translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation>เมาส์</translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation>คีย์ผสม</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGeneralMasker</name>
+    <message>
+        <source>对话框</source>
+        <translation>กล่องโต้ตอบ</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleLangMenu</name>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>한국어</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>Русский</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Tiếng Việt</source>
+        <translation>Tiếng Việt</translation>
+    </message>
+    <message>
+        <source>Português</source>
+        <translation>Português</translation>
+    </message>
+    <message>
+        <source>ภาษาไทย</source>
+        <translation>ภาษาไทย</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Svenska</source>
+        <translation>Svenska</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>Türkçe</source>
+        <translation>Türkçe</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleScrollValue</name>
+    <message>
+        <source>数值滚轮</source>
+        <translation>วงล้อเลือกค่า</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleVideoItem</name>
+    <message>
+        <source>Movie</source>
+        <translation>Movie</translation>
+    </message>
+    <message>
+        <source>Orbe 7090 操作指南-宏设置</source>
+        <translation>คู่มือ Orbe 7090: ตั้งค่ามาโคร</translation>
+    </message>
+</context>
+<context>
+    <name>ToggleButton</name>
+    <message>
+        <source>开关</source>
+        <translation>สวิตช์</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,670 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
+<context>
+    <name>CommandRows</name>
+    <message>
+        <source>命令,数据长度,Byte0
+命令号(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</source>
+        <translation>命令,数据长度,Byte0
+命令号(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
+    </message>
+</context>
+<context>
+    <name>CustomTabBar</name>
+    <message>
+        <source>选项卡</source>
+        <translation>选项卡</translation>
+    </message>
+</context>
+<context>
+    <name>CustumSlider</name>
+    <message>
+        <source>滑块</source>
+        <translation>滑块</translation>
+    </message>
+</context>
+<context>
+    <name>DemoDesk</name>
+    <message>
+        <source>虚拟设备</source>
+        <translation>虚拟设备</translation>
+    </message>
+    <message>
+        <source>插入或拔出虚拟设备：</source>
+        <translation>插入或拔出虚拟设备：</translation>
+    </message>
+</context>
+<context>
+    <name>DialogDeviceConnect</name>
+    <message>
+        <source>Orbe Studio 设备调试</source>
+        <translation>Orbe Studio 设备调试</translation>
+    </message>
+    <message>
+        <source>命令目录</source>
+        <translation>命令目录</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceShow</name>
+    <message>
+        <source>剩余电量</source>
+        <translation>剩余电量</translation>
+    </message>
+</context>
+<context>
+    <name>HubTray</name>
+    <message>
+        <source>显示窗口</source>
+        <translation>显示窗口</translation>
+    </message>
+    <message>
+        <source>隐藏窗口</source>
+        <translation>隐藏窗口</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>退出程序</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>语言</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>系统设置</source>
+        <translation>系统设置</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>搜索设备</translation>
+    </message>
+    <message>
+        <source>我的设备</source>
+        <translation>我的设备</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>确定要退出 ORBE 驱动程序？</source>
+        <translation>确定要退出 ORBE 驱动程序？</translation>
+    </message>
+    <message>
+        <source>正在搜索设备</source>
+        <translation>正在搜索设备</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGenKeymapping</name>
+    <message>
+        <source>上一曲</source>
+        <translation>上一曲</translation>
+    </message>
+    <message>
+        <source>下一曲</source>
+        <translation>下一曲</translation>
+    </message>
+    <message>
+        <source>播放/暂停</source>
+        <translation>播放/暂停</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>音量+</source>
+        <translation>音量+</translation>
+    </message>
+    <message>
+        <source>音量-</source>
+        <translation>音量-</translation>
+    </message>
+    <message>
+        <source>播放器</source>
+        <translation>播放器</translation>
+    </message>
+    <message>
+        <source>计算器</source>
+        <translation>计算器</translation>
+    </message>
+    <message>
+        <source>邮件</source>
+        <translation>邮件</translation>
+    </message>
+    <message>
+        <source>我的电脑</source>
+        <translation>我的电脑</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>主页</source>
+        <translation>主页</translation>
+    </message>
+    <message>
+        <source>后退</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>前进</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>收藏</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>亮度+</source>
+        <translation>亮度+</translation>
+    </message>
+    <message>
+        <source>亮度-</source>
+        <translation>亮度-</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>呼出Siri</source>
+        <translation>呼出Siri</translation>
+    </message>
+    <message>
+        <source>切换输入法</source>
+        <translation>切换输入法</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Fn键锁屏</source>
+        <translation>Fn键锁屏</translation>
+    </message>
+    <message>
+        <source>锁屏</source>
+        <translation>锁屏</translation>
+    </message>
+    <message>
+        <source>R-Fn键</source>
+        <translation>R-Fn键</translation>
+    </message>
+    <message>
+        <source>DPI-Loop</source>
+        <translation>DPI-Loop</translation>
+    </message>
+    <message>
+        <source>DPI+</source>
+        <translation>DPI+</translation>
+    </message>
+    <message>
+        <source>DPI-</source>
+        <translation>DPI-</translation>
+    </message>
+    <message>
+        <source>DPI-Shift</source>
+        <translation>DPI-Shift</translation>
+    </message>
+    <message>
+        <source>电源</source>
+        <translation>电源</translation>
+    </message>
+    <message>
+        <source>睡眠</source>
+        <translation>睡眠</translation>
+    </message>
+    <message>
+        <source>唤醒</source>
+        <translation>唤醒</translation>
+    </message>
+    <message>
+        <source>Profile-Value</source>
+        <translation>Profile-Value</translation>
+    </message>
+    <message>
+        <source>Profile+</source>
+        <translation>Profile+</translation>
+    </message>
+    <message>
+        <source>Profile-</source>
+        <translation>Profile-</translation>
+    </message>
+    <message>
+        <source>Profile-Loop</source>
+        <translation>Profile-Loop</translation>
+    </message>
+    <message>
+        <source>Profile-1</source>
+        <translation>Profile-1</translation>
+    </message>
+    <message>
+        <source>Profile-2</source>
+        <translation>Profile-2</translation>
+    </message>
+    <message>
+        <source>Profile-3</source>
+        <translation>Profile-3</translation>
+    </message>
+    <message>
+        <source>Profile-4</source>
+        <translation>Profile-4</translation>
+    </message>
+    <message>
+        <source>Profile-5</source>
+        <translation>Profile-5</translation>
+    </message>
+    <message>
+        <source>L-Fn键</source>
+        <translation>L-Fn键</translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>恢复出厂设置</translation>
+    </message>
+    <message>
+        <source>锁Win</source>
+        <translation>锁Win</translation>
+    </message>
+    <message>
+        <source>切换Win</source>
+        <translation>切换Win</translation>
+    </message>
+    <message>
+        <source>切换Mac</source>
+        <translation>切换Mac</translation>
+    </message>
+    <message>
+        <source>系统切换</source>
+        <translation>系统切换</translation>
+    </message>
+    <message>
+        <source>Check Battery</source>
+        <translation>Check Battery</translation>
+    </message>
+    <message>
+        <source>WASD切换</source>
+        <translation>WASD切换</translation>
+    </message>
+    <message>
+        <source>Fn层切换</source>
+        <translation>Fn层切换</translation>
+    </message>
+    <message>
+        <source>设备节能</source>
+        <translation>设备节能</translation>
+    </message>
+    <message>
+        <source>APP CTRL切换</source>
+        <translation>APP CTRL切换</translation>
+    </message>
+    <message>
+        <source>背光开/关</source>
+        <translation>背光开/关</translation>
+    </message>
+    <message>
+        <source>背光灯效循环</source>
+        <translation>背光灯效循环</translation>
+    </message>
+    <message>
+        <source>背光灯效+</source>
+        <translation>背光灯效+</translation>
+    </message>
+    <message>
+        <source>背光灯效-</source>
+        <translation>背光灯效-</translation>
+    </message>
+    <message>
+        <source>背光亮度循环</source>
+        <translation>背光亮度循环</translation>
+    </message>
+    <message>
+        <source>背光亮度+</source>
+        <translation>背光亮度+</translation>
+    </message>
+    <message>
+        <source>背光亮度-</source>
+        <translation>背光亮度-</translation>
+    </message>
+    <message>
+        <source>背光速度循环</source>
+        <translation>背光速度循环</translation>
+    </message>
+    <message>
+        <source>背光速度-</source>
+        <translation>背光速度-</translation>
+    </message>
+    <message>
+        <source>背光速度+</source>
+        <translation>背光速度+</translation>
+    </message>
+    <message>
+        <source>背光方向循环</source>
+        <translation>背光方向循环</translation>
+    </message>
+    <message>
+        <source>背光向左</source>
+        <translation>背光向左</translation>
+    </message>
+    <message>
+        <source>背光向右</source>
+        <translation>背光向右</translation>
+    </message>
+    <message>
+        <source>背光颜色循环</source>
+        <translation>背光颜色循环</translation>
+    </message>
+    <message>
+        <source>背光颜色+</source>
+        <translation>背光颜色+</translation>
+    </message>
+    <message>
+        <source>背光颜色-</source>
+        <translation>背光颜色-</translation>
+    </message>
+    <message>
+        <source>Use Pic 0</source>
+        <translation>Use Pic 0</translation>
+    </message>
+    <message>
+        <source>Use Pic 1</source>
+        <translation>Use Pic 1</translation>
+    </message>
+    <message>
+        <source>Use Pic 2</source>
+        <translation>Use Pic 2</translation>
+    </message>
+    <message>
+        <source>Use Pic 3</source>
+        <translation>Use Pic 3</translation>
+    </message>
+    <message>
+        <source>Use Pic 4</source>
+        <translation>Use Pic 4</translation>
+    </message>
+    <message>
+        <source>Use Pic</source>
+        <translation>Use Pic</translation>
+    </message>
+    <message>
+        <source>侧光开/关</source>
+        <translation>侧光开/关</translation>
+    </message>
+    <message>
+        <source>侧光亮度循环</source>
+        <translation>侧光亮度循环</translation>
+    </message>
+    <message>
+        <source>侧光速度循环</source>
+        <translation>侧光速度循环</translation>
+    </message>
+    <message>
+        <source>侧光速度+</source>
+        <translation>侧光速度+</translation>
+    </message>
+    <message>
+        <source>侧光速度-</source>
+        <translation>侧光速度-</translation>
+    </message>
+    <message>
+        <source>侧光颜色循环</source>
+        <translation>侧光颜色循环</translation>
+    </message>
+    <message>
+        <source>侧光颜色+</source>
+        <translation>侧光颜色+</translation>
+    </message>
+    <message>
+        <source>侧光颜色-</source>
+        <translation>侧光颜色-</translation>
+    </message>
+    <message>
+        <source>2.4G</source>
+        <translation>2.4G</translation>
+    </message>
+    <message>
+        <source>蓝牙1</source>
+        <translation>蓝牙1</translation>
+    </message>
+    <message>
+        <source>蓝牙2</source>
+        <translation>蓝牙2</translation>
+    </message>
+    <message>
+        <source>蓝牙3</source>
+        <translation>蓝牙3</translation>
+    </message>
+    <message>
+        <source>有线</source>
+        <translation>有线</translation>
+    </message>
+    <message>
+        <source>有线-蓝牙-2.4G</source>
+        <translation>有线-蓝牙-2.4G</translation>
+    </message>
+    <message>
+        <source>2.4G配对</source>
+        <translation>2.4G配对</translation>
+    </message>
+    <message>
+        <source>蓝牙配对</source>
+        <translation>蓝牙配对</translation>
+    </message>
+    <message>
+        <source>Insert键</source>
+        <translation>Insert键</translation>
+    </message>
+    <message>
+        <source>Print Screen键</source>
+        <translation>Print Screen键</translation>
+    </message>
+    <message>
+        <source>左键单击</source>
+        <translation>左键单击</translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation>右键单击</translation>
+    </message>
+    <message>
+        <source>中键按下</source>
+        <translation>中键按下</translation>
+    </message>
+    <message>
+        <source>光标前进</source>
+        <translation>光标前进</translation>
+    </message>
+    <message>
+        <source>光标后退</source>
+        <translation>光标后退</translation>
+    </message>
+    <message>
+        <source>滚轮-向左</source>
+        <translation>滚轮-向左</translation>
+    </message>
+    <message>
+        <source>滚轮-向右</source>
+        <translation>滚轮-向右</translation>
+    </message>
+    <message>
+        <source>滚轮-向上</source>
+        <translation>滚轮-向上</translation>
+    </message>
+    <message>
+        <source>滚轮-向下</source>
+        <translation>滚轮-向下</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>向上滚屏</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>向下滚屏</translation>
+    </message>
+    <message>
+        <source>XUP</source>
+        <translation>XUP</translation>
+    </message>
+    <message>
+        <source>XDOWN</source>
+        <translation>XDOWN</translation>
+    </message>
+    <message>
+        <source>YUP</source>
+        <translation>YUP</translation>
+    </message>
+    <message>
+        <source>YDOWN</source>
+        <translation>YDOWN</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>宏设置</translation>
+    </message>
+    <message>
+        <source>功能</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation>鼠标</translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation>组合</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGeneralMasker</name>
+    <message>
+        <source>对话框</source>
+        <translation>对话框</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleLangMenu</name>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>한국어</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>Русский</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Tiếng Việt</source>
+        <translation>Tiếng Việt</translation>
+    </message>
+    <message>
+        <source>Português</source>
+        <translation>Português</translation>
+    </message>
+    <message>
+        <source>ภาษาไทย</source>
+        <translation>ภาษาไทย</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Svenska</source>
+        <translation>Svenska</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>Türkçe</source>
+        <translation>Türkçe</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleScrollValue</name>
+    <message>
+        <source>数值滚轮</source>
+        <translation>数值滚轮</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleVideoItem</name>
+    <message>
+        <source>Movie</source>
+        <translation>Movie</translation>
+    </message>
+    <message>
+        <source>Orbe 7090 操作指南-宏设置</source>
+        <translation>Orbe 7090 操作指南-宏设置</translation>
+    </message>
+</context>
+<context>
+    <name>ToggleButton</name>
+    <message>
+        <source>开关</source>
+        <translation>开关</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,670 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="zh_CN">
+<context>
+    <name>CommandRows</name>
+    <message>
+        <source>命令,数据长度,Byte0
+命令号(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</source>
+        <translation>命令,資料長度,Byte0
+命令號(Hex),Byte1
+Effect,Byte2
+Speed,Byte3
+Brightness,Byte4
+Option,Byte5
+R,Byte6
+G,Byte7
+B</translation>
+    </message>
+</context>
+<context>
+    <name>CustomTabBar</name>
+    <message>
+        <source>选项卡</source>
+        <translation>分頁</translation>
+    </message>
+</context>
+<context>
+    <name>CustumSlider</name>
+    <message>
+        <source>滑块</source>
+        <translation>滑桿</translation>
+    </message>
+</context>
+<context>
+    <name>DemoDesk</name>
+    <message>
+        <source>虚拟设备</source>
+        <translation>虛擬裝置</translation>
+    </message>
+    <message>
+        <source>插入或拔出虚拟设备：</source>
+        <translation>插入或拔出虛擬裝置：</translation>
+    </message>
+</context>
+<context>
+    <name>DialogDeviceConnect</name>
+    <message>
+        <source>Orbe Studio 设备调试</source>
+        <translation>Orbe Studio 裝置偵錯</translation>
+    </message>
+    <message>
+        <source>命令目录</source>
+        <translation>命令目錄</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceShow</name>
+    <message>
+        <source>剩余电量</source>
+        <translation>剩餘電量</translation>
+    </message>
+</context>
+<context>
+    <name>HubTray</name>
+    <message>
+        <source>显示窗口</source>
+        <translation>顯示視窗</translation>
+    </message>
+    <message>
+        <source>隐藏窗口</source>
+        <translation>隱藏視窗</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>結束程式</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>语言</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>系统设置</source>
+        <translation>系統設定</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>搜尋裝置</translation>
+    </message>
+    <message>
+        <source>我的设备</source>
+        <translation>我的裝置</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>确定要退出 ORBE 驱动程序？</source>
+        <translation>確定要結束 ORBE 驅動程式嗎？</translation>
+    </message>
+    <message>
+        <source>正在搜索设备</source>
+        <translation>正在搜尋裝置</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGenKeymapping</name>
+    <message>
+        <source>上一曲</source>
+        <translation>上一曲</translation>
+    </message>
+    <message>
+        <source>下一曲</source>
+        <translation>下一曲</translation>
+    </message>
+    <message>
+        <source>播放/暂停</source>
+        <translation>播放/暫停</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>音量+</source>
+        <translation>音量+</translation>
+    </message>
+    <message>
+        <source>音量-</source>
+        <translation>音量-</translation>
+    </message>
+    <message>
+        <source>播放器</source>
+        <translation>播放器</translation>
+    </message>
+    <message>
+        <source>计算器</source>
+        <translation>計算機</translation>
+    </message>
+    <message>
+        <source>邮件</source>
+        <translation>郵件</translation>
+    </message>
+    <message>
+        <source>我的电脑</source>
+        <translation>我的電腦</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>搜尋</translation>
+    </message>
+    <message>
+        <source>主页</source>
+        <translation>主頁</translation>
+    </message>
+    <message>
+        <source>后退</source>
+        <translation>後退</translation>
+    </message>
+    <message>
+        <source>前进</source>
+        <translation>前進</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>重新整理</translation>
+    </message>
+    <message>
+        <source>收藏</source>
+        <translation>我的最愛</translation>
+    </message>
+    <message>
+        <source>亮度+</source>
+        <translation>亮度+</translation>
+    </message>
+    <message>
+        <source>亮度-</source>
+        <translation>亮度-</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>缩小</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>呼出Siri</source>
+        <translation>呼叫 Siri</translation>
+    </message>
+    <message>
+        <source>切换输入法</source>
+        <translation>切換輸入法</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Fn键锁屏</source>
+        <translation>Fn 鍵鎖定</translation>
+    </message>
+    <message>
+        <source>锁屏</source>
+        <translation>鎖定螢幕</translation>
+    </message>
+    <message>
+        <source>R-Fn键</source>
+        <translation>R-Fn 鍵</translation>
+    </message>
+    <message>
+        <source>DPI-Loop</source>
+        <translation>DPI-Loop</translation>
+    </message>
+    <message>
+        <source>DPI+</source>
+        <translation>DPI+</translation>
+    </message>
+    <message>
+        <source>DPI-</source>
+        <translation>DPI-</translation>
+    </message>
+    <message>
+        <source>DPI-Shift</source>
+        <translation>DPI-Shift</translation>
+    </message>
+    <message>
+        <source>电源</source>
+        <translation>電源</translation>
+    </message>
+    <message>
+        <source>睡眠</source>
+        <translation>睡眠</translation>
+    </message>
+    <message>
+        <source>唤醒</source>
+        <translation>喚醒</translation>
+    </message>
+    <message>
+        <source>Profile-Value</source>
+        <translation>Profile-Value</translation>
+    </message>
+    <message>
+        <source>Profile+</source>
+        <translation>Profile+</translation>
+    </message>
+    <message>
+        <source>Profile-</source>
+        <translation>Profile-</translation>
+    </message>
+    <message>
+        <source>Profile-Loop</source>
+        <translation>Profile-Loop</translation>
+    </message>
+    <message>
+        <source>Profile-1</source>
+        <translation>Profile-1</translation>
+    </message>
+    <message>
+        <source>Profile-2</source>
+        <translation>Profile-2</translation>
+    </message>
+    <message>
+        <source>Profile-3</source>
+        <translation>Profile-3</translation>
+    </message>
+    <message>
+        <source>Profile-4</source>
+        <translation>Profile-4</translation>
+    </message>
+    <message>
+        <source>Profile-5</source>
+        <translation>Profile-5</translation>
+    </message>
+    <message>
+        <source>L-Fn键</source>
+        <translation>L-Fn 鍵</translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>恢復原廠設定</translation>
+    </message>
+    <message>
+        <source>锁Win</source>
+        <translation>鎖定 Win</translation>
+    </message>
+    <message>
+        <source>切换Win</source>
+        <translation>切換 Win</translation>
+    </message>
+    <message>
+        <source>切换Mac</source>
+        <translation>切換 Mac</translation>
+    </message>
+    <message>
+        <source>系统切换</source>
+        <translation>系統切換</translation>
+    </message>
+    <message>
+        <source>Check Battery</source>
+        <translation>檢查電量</translation>
+    </message>
+    <message>
+        <source>WASD切换</source>
+        <translation>WASD 切換</translation>
+    </message>
+    <message>
+        <source>Fn层切换</source>
+        <translation>Fn 層切換</translation>
+    </message>
+    <message>
+        <source>设备节能</source>
+        <translation>裝置節能</translation>
+    </message>
+    <message>
+        <source>APP CTRL切换</source>
+        <translation>APP CTRL 切換</translation>
+    </message>
+    <message>
+        <source>背光开/关</source>
+        <translation>背光開/關</translation>
+    </message>
+    <message>
+        <source>背光灯效循环</source>
+        <translation>背光燈效循環</translation>
+    </message>
+    <message>
+        <source>背光灯效+</source>
+        <translation>背光燈效+</translation>
+    </message>
+    <message>
+        <source>背光灯效-</source>
+        <translation>背光燈效-</translation>
+    </message>
+    <message>
+        <source>背光亮度循环</source>
+        <translation>背光亮度循環</translation>
+    </message>
+    <message>
+        <source>背光亮度+</source>
+        <translation>背光亮度+</translation>
+    </message>
+    <message>
+        <source>背光亮度-</source>
+        <translation>背光亮度-</translation>
+    </message>
+    <message>
+        <source>背光速度循环</source>
+        <translation>背光速度循環</translation>
+    </message>
+    <message>
+        <source>背光速度-</source>
+        <translation>背光速度-</translation>
+    </message>
+    <message>
+        <source>背光速度+</source>
+        <translation>背光速度+</translation>
+    </message>
+    <message>
+        <source>背光方向循环</source>
+        <translation>背光方向循環</translation>
+    </message>
+    <message>
+        <source>背光向左</source>
+        <translation>背光向左</translation>
+    </message>
+    <message>
+        <source>背光向右</source>
+        <translation>背光向右</translation>
+    </message>
+    <message>
+        <source>背光颜色循环</source>
+        <translation>背光顏色循環</translation>
+    </message>
+    <message>
+        <source>背光颜色+</source>
+        <translation>背光顏色+</translation>
+    </message>
+    <message>
+        <source>背光颜色-</source>
+        <translation>背光顏色-</translation>
+    </message>
+    <message>
+        <source>Use Pic 0</source>
+        <translation>使用圖案 0</translation>
+    </message>
+    <message>
+        <source>Use Pic 1</source>
+        <translation>使用圖案 1</translation>
+    </message>
+    <message>
+        <source>Use Pic 2</source>
+        <translation>使用圖案 2</translation>
+    </message>
+    <message>
+        <source>Use Pic 3</source>
+        <translation>使用圖案 3</translation>
+    </message>
+    <message>
+        <source>Use Pic 4</source>
+        <translation>使用圖案 4</translation>
+    </message>
+    <message>
+        <source>Use Pic</source>
+        <translation>使用圖案</translation>
+    </message>
+    <message>
+        <source>侧光开/关</source>
+        <translation>側光開/關</translation>
+    </message>
+    <message>
+        <source>侧光亮度循环</source>
+        <translation>側光亮度循環</translation>
+    </message>
+    <message>
+        <source>侧光速度循环</source>
+        <translation>側光速度循環</translation>
+    </message>
+    <message>
+        <source>侧光速度+</source>
+        <translation>側光速度+</translation>
+    </message>
+    <message>
+        <source>侧光速度-</source>
+        <translation>側光速度-</translation>
+    </message>
+    <message>
+        <source>侧光颜色循环</source>
+        <translation>側光顏色循環</translation>
+    </message>
+    <message>
+        <source>侧光颜色+</source>
+        <translation>側光顏色+</translation>
+    </message>
+    <message>
+        <source>侧光颜色-</source>
+        <translation>側光顏色-</translation>
+    </message>
+    <message>
+        <source>2.4G</source>
+        <translation>2.4G</translation>
+    </message>
+    <message>
+        <source>蓝牙1</source>
+        <translation>藍牙1</translation>
+    </message>
+    <message>
+        <source>蓝牙2</source>
+        <translation>藍牙2</translation>
+    </message>
+    <message>
+        <source>蓝牙3</source>
+        <translation>藍牙3</translation>
+    </message>
+    <message>
+        <source>有线</source>
+        <translation>有線</translation>
+    </message>
+    <message>
+        <source>有线-蓝牙-2.4G</source>
+        <translation>有線-藍牙-2.4G</translation>
+    </message>
+    <message>
+        <source>2.4G配对</source>
+        <translation>2.4G 配對</translation>
+    </message>
+    <message>
+        <source>蓝牙配对</source>
+        <translation>藍牙配對</translation>
+    </message>
+    <message>
+        <source>Insert键</source>
+        <translation>Insert 鍵</translation>
+    </message>
+    <message>
+        <source>Print Screen键</source>
+        <translation>Print Screen 鍵</translation>
+    </message>
+    <message>
+        <source>左键单击</source>
+        <translation>左鍵點擊</translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation>右鍵點擊</translation>
+    </message>
+    <message>
+        <source>中键按下</source>
+        <translation>中鍵按下</translation>
+    </message>
+    <message>
+        <source>光标前进</source>
+        <translation>游標前進</translation>
+    </message>
+    <message>
+        <source>光标后退</source>
+        <translation>游標後退</translation>
+    </message>
+    <message>
+        <source>滚轮-向左</source>
+        <translation>滾輪-向左</translation>
+    </message>
+    <message>
+        <source>滚轮-向右</source>
+        <translation>滾輪-向右</translation>
+    </message>
+    <message>
+        <source>滚轮-向上</source>
+        <translation>滾輪-向上</translation>
+    </message>
+    <message>
+        <source>滚轮-向下</source>
+        <translation>滾輪-向下</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>向上捲動</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>向下捲動</translation>
+    </message>
+    <message>
+        <source>XUP</source>
+        <translation>XUP</translation>
+    </message>
+    <message>
+        <source>XDOWN</source>
+        <translation>XDOWN</translation>
+    </message>
+    <message>
+        <source>YUP</source>
+        <translation>YUP</translation>
+    </message>
+    <message>
+        <source>YDOWN</source>
+        <translation>YDOWN</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>巨集設定</translation>
+    </message>
+    <message>
+        <source>功能</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation>滑鼠</translation>
+    </message>
+    <message>
+        <source>组合</source>
+        <translation>組合</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleGeneralMasker</name>
+    <message>
+        <source>对话框</source>
+        <translation>對話方塊</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleLangMenu</name>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>한국어</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>Русский</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Tiếng Việt</source>
+        <translation>Tiếng Việt</translation>
+    </message>
+    <message>
+        <source>Português</source>
+        <translation>Português</translation>
+    </message>
+    <message>
+        <source>ภาษาไทย</source>
+        <translation>ภาษาไทย</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Svenska</source>
+        <translation>Svenska</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>Türkçe</source>
+        <translation>Türkçe</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleScrollValue</name>
+    <message>
+        <source>数值滚轮</source>
+        <translation>數值滾輪</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleVideoItem</name>
+    <message>
+        <source>Movie</source>
+        <translation>Movie</translation>
+    </message>
+    <message>
+        <source>Orbe 7090 操作指南-宏设置</source>
+        <translation>Orbe 7090 操作指南-巨集設定</translation>
+    </message>
+</context>
+<context>
+    <name>ToggleButton</name>
+    <message>
+        <source>开关</source>
+        <translation>開關</translation>
+    </message>
+</context>
+</TS>

@@ -9,7 +9,12 @@ constexpr std::size_t LongestWay = 256; ///< points remembered per key
 
 }
 
-void Fingers::move(int position, const std::vector<FingerPoint> &path, TimePoint now)
+FingerPath keyStroke(int depth, std::chrono::milliseconds travelTime, std::chrono::milliseconds hold)
+{
+    return {{travelTime, depth}, {travelTime + hold, depth}, {2 * travelTime + hold, 0}};
+}
+
+void Fingers::move(int position, const FingerPath &path, TimePoint now)
 {
     Way &way = ways[position];
     const int start = depthOn(way, now);
@@ -33,9 +38,10 @@ int Fingers::peak(int position, TimePoint from, TimePoint to) const
     if (way == ways.end())
         return 0;
     int deepest = std::max(depthOn(way->second, from), depthOn(way->second, to));
-    for (const Point &point : way->second)
+    for (const Point &point : way->second) {
         if (point.when >= from && point.when <= to)
             deepest = std::max(deepest, point.depth);
+    }
     return deepest;
 }
 

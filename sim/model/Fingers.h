@@ -16,12 +16,17 @@ struct FingerPoint
     int depth; ///< 0 (up) to FullTravel
 };
 
+using FingerPath = std::vector<FingerPoint>;
+
+/// A key stroke: down to \a depth within \a travelTime, held, and up again as fast.
+FingerPath keyStroke(int depth, std::chrono::milliseconds travelTime, std::chrono::milliseconds hold);
+
 /// Scripted fingers on the keys. Depth runs straight from point to point and stays at the last one.
 class Fingers
 {
 public:
     /// Replaces what that finger did; the way starts where the key is now.
-    void move(int position, const std::vector<FingerPoint> &path, TimePoint now);
+    void move(int position, const FingerPath &path, TimePoint now);
     void lift() { ways.clear(); }
 
     int depth(int position, TimePoint when) const;

@@ -33,9 +33,10 @@ Answer Macros::read(const Frame &frame) const
         return {};
     Page page{};
     const std::size_t offset = frame[2] * PageSize;
-    if (const Macro *macro = find(frame[1]); macro && offset < macro->blob.size())
+    if (const Macro *macro = find(frame[1]); macro && offset < macro->blob.size()) {
         std::copy_n(macro->blob.begin() + static_cast<std::ptrdiff_t>(offset),
                     std::min(PageSize, macro->blob.size() - offset), page.begin());
+    }
     return page;
 }
 

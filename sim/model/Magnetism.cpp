@@ -14,10 +14,12 @@ std::size_t indexOf(const MagnetTable &table)
 
 Magnetism::Magnetism()
 {
-    for (const MagnetTable &table : MagnetTables)
-        for (int position = 0; position < KeyMatrices::Positions; ++position)
+    for (const MagnetTable &table : MagnetTables) {
+        for (int position = 0; position < KeyMatrices::Positions; ++position) {
             if (KeyMatrices::factoryKey(position) != KeyEntry{})
                 values[indexOf(table)][position] = table.factory;
+        }
+    }
 }
 
 std::uint32_t Magnetism::value(Byte table, int position) const
@@ -32,10 +34,11 @@ void Magnetism::setValue(Byte table, int position, std::uint32_t value)
     if (!row)
         return;
     auto &keys = values[indexOf(*row)];
-    if (position == AllKeys)
+    if (position == AllKeys) {
         keys.fill(value);
-    else if (position >= 0 && position < KeyMatrices::Positions)
+    } else if (position >= 0 && position < KeyMatrices::Positions) {
         keys[position] = value;
+    }
 }
 
 Answer Magnetism::write(const Frame &frame)
@@ -58,9 +61,10 @@ Answer Magnetism::read(const Frame &frame) const
         return {};
     Page page{};
     const std::size_t keysPerPage = PageSize / table->width;
-    for (std::size_t i = 0; i < keysPerPage; ++i)
+    for (std::size_t i = 0; i < keysPerPage; ++i) {
         putLittleEndian(page, i * table->width, table->width,
                         values[indexOf(*table)][frame[3] * keysPerPage + i]);
+    }
     return page;
 }
 

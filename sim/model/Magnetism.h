@@ -11,7 +11,7 @@ struct MagnetTable
     Byte width;            ///< bytes per key in a page
     std::uint32_t factory; ///< value of a key fresh from the factory
 
-    constexpr std::size_t pages() const { return width * KeyMatrices::Positions / PageSize; }
+    constexpr std::size_t pages() const { return std::size_t{width} * KeyMatrices::Positions / PageSize; }
 };
 
 constexpr Byte SensorTable = 0xFE; ///< live readings; can't be written
@@ -35,9 +35,10 @@ constexpr std::array MagnetTables{
 /// The row of a table number, or null.
 constexpr const MagnetTable *findMagnetTable(Byte number)
 {
-    for (const MagnetTable &table : MagnetTables)
+    for (const MagnetTable &table : MagnetTables) {
         if (table.number == number)
             return &table;
+    }
     return nullptr;
 }
 

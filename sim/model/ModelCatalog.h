@@ -108,9 +108,10 @@ constexpr std::array Models{
 /// The row called \a name, or null.
 constexpr const Model *findModel(std::string_view name)
 {
-    for (const Model &model : Models)
+    for (const Model &model : Models) {
         if (model.name == name)
             return &model;
+    }
     return nullptr;
 }
 

@@ -54,11 +54,11 @@ Outcome WsDevice::receive(Channel, ReportType type, ByteView report, TimePoint)
         return Outcome::refused();
     Bytes reply(report.begin(), report.begin() + std::min(report.size(), ReplySize));
     reply.resize(ReplySize);
-    if (startsWith(report, IdentityRequest))
+    if (startsWith(report, IdentityRequest)) {
         reply[IdOffset] = static_cast<Byte>(model().deviceId);
-    else if (startsWith(report, BatteryRequest))
+    } else if (startsWith(report, BatteryRequest)) {
         reply[BatteryOffset] = battery;
-    else {
+    } else {
         ++faults.unknown;
         return Outcome::silent();
     }

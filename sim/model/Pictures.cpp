@@ -12,13 +12,13 @@ constexpr Byte WholePicture = 0xFF; ///< the page counts through the slot
 Colour Pictures::colour(int slot, int position) const
 {
     Colour result;
-    std::copy_n(slots[slot].begin() + position * 3, result.size(), result.begin());
+    std::copy_n(slots[slot].begin() + std::ptrdiff_t{position} * 3, result.size(), result.begin());
     return result;
 }
 
 void Pictures::setColour(int slot, int position, Colour colour)
 {
-    std::copy(colour.begin(), colour.end(), slots[slot].begin() + position * 3);
+    std::copy(colour.begin(), colour.end(), slots[slot].begin() + std::ptrdiff_t{position} * 3);
 }
 
 Answer Pictures::write(const Frame &frame)

@@ -43,19 +43,21 @@ void BusState::unplug(const DevicePtr &device)
 {
     std::erase(devices, device);
     recordOf(*device).plugged = false;
-    for (auto &[id, handle] : handles)
+    for (auto &[id, handle] : handles) {
         if (handle.device == device)
             handle.gone = true;
+    }
     changed.notify_all();
 }
 
 void BusState::deliver(const DeviceRecord &record, sim::Channel channel, const sim::Bytes &report,
                        sim::TimePoint due)
 {
-    for (auto &[id, handle] : handles)
+    for (auto &[id, handle] : handles) {
         if (&handle.record() == &record && handle.channel == channel && !handle.gone &&
             handle.inputs.size() < InputQueueLimit)
             handle.inputs.push_back({report, due});
+    }
     changed.notify_all();
 }
 
@@ -67,6 +69,7 @@ void BusState::collect(DeviceRecord &record, sim::Channel channel, sim::TimePoin
 
 hid_device *toPointer(unsigned handle)
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): a ticket, not an address
     return reinterpret_cast<hid_device *>(std::uintptr_t{handle});
 }
 

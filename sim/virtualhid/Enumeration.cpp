@@ -31,11 +31,12 @@ bool matches(const sim::Model &model, std::uint16_t vendorId, std::uint16_t prod
 
 bool isOn(const DeviceRecord &record, std::string_view path, sim::Channel &channel)
 {
-    for (const sim::Channel candidate : record.device->model().channelList())
+    for (const sim::Channel candidate : record.device->model().channelList()) {
         if (record.path(candidate) == path) {
             channel = candidate;
             return true;
         }
+    }
     return false;
 }
 
@@ -107,10 +108,11 @@ Enumeration enumerate(std::uint16_t vendorId, std::uint16_t productId)
             continue;
         for (const sim::Channel channel : record.device->model().channelList()) {
             hid_device_info *entry = describe(record, channel).release();
-            if (end)
+            if (end) {
                 *end = entry;
-            else
+            } else {
                 list.reset(entry);
+            }
             end = &entry->next;
         }
     }
@@ -123,9 +125,10 @@ hid_device *openPath(std::string_view path)
 {
     BusState &bus = BusState::get();
     const std::scoped_lock lock{bus.mutex};
-    for (const DevicePtr &device : bus.devices)
+    for (const DevicePtr &device : bus.devices) {
         if (sim::Channel channel{}; isOn(BusState::recordOf(*device), path, channel))
             return openChannel(bus, device, channel);
+    }
     openError() = L"Failed to open a device with path '" + widen(path) + L"': No such file or directory";
     ++bus.counters.failedOpens;
     return nullptr;

@@ -26,10 +26,11 @@ std::optional<sim::Reply> spoil(std::optional<sim::Reply> reply, const Fault &fa
 {
     if (fault.lostReply)
         return {};
-    if (!reply && fault.replacement) // the device itself would have kept silent
+    if (!reply && fault.replacement) { // the device itself would have kept silent
         reply = sim::Reply{.asInput = way == Way::OutputSent,
                            .prefix = prefixLength(channel, way),
                            .report = sim::Bytes(prefixLength(channel, way))};
+    }
     if (!reply)
         return {};
     sim::Bytes &report = reply->report;
@@ -49,12 +50,13 @@ std::optional<sim::Reply> spoil(std::optional<sim::Reply> reply, const Fault &fa
 void place(BusState &bus, DeviceRecord &record, sim::Channel channel, Way way,
            const std::optional<sim::Reply> &reply, sim::TimePoint now)
 {
-    if (reply && reply->asInput)
+    if (reply && reply->asInput) {
         bus.deliver(record, channel, reply->report, now + reply->latency);
-    else if (reply)
+    } else if (reply) {
         record.features[channel] = {true, reply->report, now + reply->latency};
-    else if (way == Way::FeatureSent)
+    } else if (way == Way::FeatureSent) {
         record.features[channel] = {};
+    }
 }
 
 void deliverNotice(BusState &bus, DeviceRecord &record, sim::TimePoint due)
@@ -174,10 +176,11 @@ int readInput(hid_device *device, std::span<sim::Byte> buffer, std::optional<std
             wake = std::min(wake, handle->inputs.front().due);
         if (const auto next = record.device->nextInput(handle->channel))
             wake = std::min(wake, *next);
-        if (wake == sim::TimePoint::max())
+        if (wake == sim::TimePoint::max()) {
             bus.changed.wait(lock);
-        else
+        } else {
             bus.changed.wait_until(lock, wake);
+        }
     }
 }
 

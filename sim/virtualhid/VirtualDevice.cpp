@@ -133,10 +133,10 @@ void VirtualDevice::denyOpens(bool deny)
 void VirtualDevice::press(int position, int depth, std::chrono::milliseconds travelTime,
                           std::chrono::milliseconds hold)
 {
-    moveFinger(position, {{travelTime, depth}, {travelTime + hold, depth}, {travelTime * 2 + hold, 0}});
+    moveFinger(position, sim::keyStroke(depth, travelTime, hold));
 }
 
-void VirtualDevice::moveFinger(int position, const std::vector<sim::FingerPoint> &path)
+void VirtualDevice::moveFinger(int position, const sim::FingerPath &path)
 {
     const auto lock = lockBus();
     firmware().sensors.fingers.move(position, path, sim::Clock::now());

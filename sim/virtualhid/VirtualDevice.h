@@ -61,7 +61,7 @@ public:
                std::chrono::milliseconds travelTime = std::chrono::milliseconds{60},
                std::chrono::milliseconds hold = std::chrono::milliseconds{100});
     /// Lets a finger follow \a path; times are offsets from now.
-    void moveFinger(int position, const std::vector<sim::FingerPoint> &path);
+    void moveFinger(int position, const sim::FingerPath &path);
     /// Takes all fingers off at once.
     void liftFingers();
     /// Puts any input report (its id first) into the queues of that channel's open handles.

@@ -78,9 +78,10 @@ HID_API_EXPORT hid_device *HID_API_CALL hid_open(unsigned short vendor_id, unsig
         const std::scoped_lock lock{bus.mutex};
         bus.counters.listsAlive -= list != nullptr;
     }
-    for (const hid_device_info *entry = list.get(); entry; entry = entry->next)
+    for (const hid_device_info *entry = list.get(); entry; entry = entry->next) {
         if (!serial_number || std::wcscmp(serial_number, entry->serial_number) == 0)
             return openPath(entry->path);
+    }
     openError() = L"Device with requested VID/PID/(SerialNumber) not found";
     return nullptr;
 }

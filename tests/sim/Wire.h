@@ -4,6 +4,7 @@
 #include "ModelCatalog.h"
 #include "VirtualBus.h"
 
+#include <algorithm>
 #include <hidapi/hidapi.h>
 #include <initializer_list>
 #include <memory>
@@ -40,6 +41,14 @@ inline Bytes prefixed(Bytes prefix, const Bytes &body)
 {
     prefix.insert(prefix.end(), body.begin(), body.end());
     return prefix;
+}
+
+/// \a count bytes from \a offset on, or as many of them as there are.
+inline Bytes part(const Bytes &bytes, std::size_t offset, std::size_t count)
+{
+    const sim::ByteView rest = sim::ByteView{bytes}.subspan(std::min(offset, bytes.size()));
+    const sim::ByteView found = rest.first(std::min(count, rest.size()));
+    return {found.begin(), found.end()};
 }
 
 /// Sends a closed frame over the cable and reads the answer; empty if there is none.

@@ -10,6 +10,7 @@ using virtualhid::DevicePtr;
 using virtualhid::VirtualBus;
 using wire::Byte;
 using wire::Bytes;
+using wire::part;
 
 Q_DECLARE_METATYPE(Bytes)
 
@@ -107,25 +108,27 @@ void TestSimKeyboard::readsBackWhatWasWritten_data()
     QTest::addColumn<Bytes>("write");
     QTest::addColumn<Bytes>("payload");
     QTest::addColumn<Bytes>("read");
-    QTest::addColumn<int>("from");
+    QTest::addColumn<size_t>("from");
     QTest::addColumn<Bytes>("answer");
     const Bytes none;
-    QTest::newRow("report rate at 2") << Bytes{0x03, 0, 5} << none << Bytes{0x83} << 2 << Bytes{5};
-    QTest::newRow("profile") << Bytes{0x04, 3} << none << Bytes{0x84} << 0 << Bytes{0x84, 3};
-    QTest::newRow("light off") << Bytes{0x05, 0, 0} << none << Bytes{0x85} << 0 << Bytes{0x85, 0, 0};
-    QTest::newRow("debounce") << Bytes{0x06, 7} << none << Bytes{0x86} << 0 << Bytes{0x86, 7};
-    QTest::newRow("light") << Bytes{0x07, 5, 1, 2, 0x27, 9, 8, 7} << none << Bytes{0x87} << 0
+    QTest::newRow("report rate at 2") << Bytes{0x03, 0, 5} << none << Bytes{0x83} << size_t{2} << Bytes{5};
+    QTest::newRow("profile") << Bytes{0x04, 3} << none << Bytes{0x84} << size_t{0} << Bytes{0x84, 3};
+    QTest::newRow("light off") << Bytes{0x05, 0, 0} << none << Bytes{0x85} << size_t{0} << Bytes{0x85, 0, 0};
+    QTest::newRow("debounce") << Bytes{0x06, 7} << none << Bytes{0x86} << size_t{0} << Bytes{0x86, 7};
+    QTest::newRow("light") << Bytes{0x07, 5, 1, 2, 0x27, 9, 8, 7} << none << Bytes{0x87} << size_t{0}
                            << Bytes{0x87, 5, 1, 2, 0x27, 9, 8, 7};
-    QTest::newRow("side light") << Bytes{0x08, 4, 1, 2, 8, 9, 8, 7} << none << Bytes{0x88} << 0
+    QTest::newRow("side light") << Bytes{0x08, 4, 1, 2, 8, 9, 8, 7} << none << Bytes{0x88} << size_t{0}
                                 << Bytes{0x88, 4, 1, 2, 8, 9, 8, 7};
     QTest::newRow("options with a tail") << Bytes{0x09, 1, 0, 1, 4, 0, 0} << Bytes{0xAA, 0xBB} << Bytes{0x89}
-                                         << 0 << Bytes{0x89, 1, 0, 1, 4, 0, 0, 0, 0xAA, 0xBB};
-    QTest::newRow("sleep times") << Bytes{0x11} << Bytes{0x2C, 1, 0x58, 2, 8, 7, 0xD0, 1} << Bytes{0x91} << 8
-                                 << Bytes{0x2C, 1, 0x58, 2, 8, 7, 0xD0, 1};
+                                         << size_t{0} << Bytes{0x89, 1, 0, 1, 4, 0, 0, 0, 0xAA, 0xBB};
+    QTest::newRow("sleep times") << Bytes{0x11} << Bytes{0x2C, 1, 0x58, 2, 8, 7, 0xD0, 1} << Bytes{0x91}
+                                 << size_t{8} << Bytes{0x2C, 1, 0x58, 2, 8, 7, 0xD0, 1};
     QTest::newRow("Fn key 14") << Bytes{0x10, 0, 0, 14} << Bytes{3, 0, 0xE9, 0} << Bytes{0x90, 0, 0, 0xFF, 0}
-                               << 56 << Bytes{3, 0, 0xE9, 0};
-    QTest::newRow("system switch") << Bytes{0x17, 1, 2} << none << Bytes{0x97} << 0 << Bytes{0x97, 1, 2};
-    QTest::newRow("stock number") << Bytes{0x50, 1, 2} << none << Bytes{0xD0} << 0 << Bytes{0xD0, 1, 2};
+                               << size_t{56} << Bytes{3, 0, 0xE9, 0};
+    QTest::newRow("system switch") << Bytes{0x17, 1, 2} << none << Bytes{0x97} << size_t{0}
+                                   << Bytes{0x97, 1, 2};
+    QTest::newRow("stock number") << Bytes{0x50, 1, 2} << none << Bytes{0xD0} << size_t{0}
+                                  << Bytes{0xD0, 1, 2};
 }
 
 void TestSimKeyboard::readsBackWhatWasWritten()
@@ -133,13 +136,12 @@ void TestSimKeyboard::readsBackWhatWasWritten()
     QFETCH(Bytes, write);
     QFETCH(Bytes, payload);
     QFETCH(Bytes, read);
-    QFETCH(int, from);
+    QFETCH(size_t, from);
     QFETCH(Bytes, answer);
     QCOMPARE(ask(write, payload).front(), write.front());
     const Bytes reply = ask(read);
     QCOMPARE(reply.size(), std::size_t{64});
-    const auto start = reply.begin() + from;
-    QCOMPARE(Bytes(start, start + static_cast<std::ptrdiff_t>(answer.size())), answer);
+    QCOMPARE(part(reply, from, answer.size()), answer);
     QCOMPARE(keyboard->frameFaults(), sim::FrameFaults{});
 }
 
@@ -151,7 +153,7 @@ void TestSimKeyboard::keepsKeysByProfileAndLayer()
     ask({0x0A, 1, 0, 0, 0, 1, 3});
     QVERIFY(!keyboard->state().keys.groupOpen());
     const Bytes page = ask({0x8A, 1, 0xFF, 7, 2});
-    QCOMPARE(Bytes(page.end() - 4, page.end()), Bytes({9, 2, 3, 0}));
+    QCOMPARE(part(page, 60, 4), Bytes({9, 2, 3, 0}));
     QCOMPARE(ask({0x8A, 0, 0xFF, 7, 2}), Bytes(64));
     QCOMPARE(ask({0x8A, 1, 0xFF, 7, 0}), Bytes(64));
     QCOMPARE(keyboard->state().keys.key(1, 2, 127), entry);
@@ -160,19 +162,19 @@ void TestSimKeyboard::keepsKeysByProfileAndLayer()
 void TestSimKeyboard::startsWithFactoryKeys()
 {
     const Bytes first = ask({0x8A, 3, 0xFF, 0, 0});
-    QCOMPARE(Bytes(first.begin(), first.begin() + 8), Bytes({0, 0, 0x29, 0, 0, 0, 0x35, 0}));
+    QCOMPARE(part(first, 0, 8), Bytes({0, 0, 0x29, 0, 0, 0, 0x35, 0}));
     const Bytes fifth = ask({0x8A, 3, 0xFF, 4, 0}); // positions 64 to 79
-    QCOMPARE(Bytes(fifth.begin() + 4, fifth.begin() + 8), Bytes({0x0A, 1, 0, 0}));
+    QCOMPARE(part(fifth, 4, 4), Bytes({0x0A, 1, 0, 0}));
     QCOMPARE(ask({0x8A, 3, 0xFF, 0, 1}), Bytes(64));
     const Bytes fn = ask({0x90, 0, 0, 0xFF, 0});
-    QCOMPARE(Bytes(fn.begin() + 4, fn.begin() + 8), Bytes({0x0A, 2, 0, 0}));
+    QCOMPARE(part(fn, 4, 4), Bytes({0x0A, 2, 0, 0}));
     QCOMPARE(ask({0x90, 0, 0, 0xFF, 9}), Bytes(64));
 }
 
 void TestSimKeyboard::keepsMagnetismTables_data()
 {
     QTest::addColumn<int>("table");
-    QTest::addColumn<int>("width");
+    QTest::addColumn<size_t>("width");
     for (const auto &[table, width] : {std::pair{0x00, 2},
                                        {0x01, 2},
                                        {0x02, 2},
@@ -187,13 +189,13 @@ void TestSimKeyboard::keepsMagnetismTables_data()
                                        {0xFF, 2},
                                        {0xFC, 1},
                                        {0xFB, 1}})
-        QTest::addRow("%02X", table) << table << width;
+        QTest::addRow("%02X", table) << table << size_t(width);
 }
 
 void TestSimKeyboard::keepsMagnetismTables()
 {
     QFETCH(int, table);
-    QFETCH(int, width);
+    QFETCH(size_t, width);
     const Byte number = static_cast<Byte>(table);
     const Bytes value{0x81, 0x42, 0x33, 0x14};
     const Byte lastPage = static_cast<Byte>(width * 2 - 1);
@@ -201,11 +203,11 @@ void TestSimKeyboard::keepsMagnetismTables()
     ask({0x65, number, 0, 127, 1}, value);
     const Bytes first = ask({0xE5, number, 1, 0});
     const Bytes last = ask({0xE5, number, 1, lastPage});
-    Bytes five(static_cast<std::size_t>(width));
+    Bytes five(width);
     five[0] = 5;
-    QCOMPARE(Bytes(first.begin(), first.begin() + width), five);
-    QCOMPARE(Bytes(last.end() - width * 2, last.end() - width), five);
-    QCOMPARE(Bytes(last.end() - width, last.end()), Bytes(value.begin(), value.begin() + width));
+    QCOMPARE(part(first, 0, width), five);
+    QCOMPARE(part(last, 64 - 2 * width, width), five);
+    QCOMPARE(part(last, 64 - width, width), part(value, 0, width));
     QCOMPARE(keyboard->state().active().magnetism.value(number, 127), 0x14334281u);
     QVERIFY(!keyboard->state().active().magnetism.groupOpen());
     QCOMPARE(keyboard->frameFaults(), sim::FrameFaults{});
@@ -228,13 +230,12 @@ void TestSimKeyboard::keepsPicture()
     Bytes map(392);
     std::iota(map.begin(), map.end(), Byte{1});
     for (Byte page = 0; page < 7; ++page) {
-        const auto start = map.begin() + page * 56;
-        ask({0x0C, 2, 0xFF, page, 56, Byte{page == 6}}, Bytes(start, start + 56));
+        ask({0x0C, 2, 0xFF, page, 56, Byte{page == 6}}, part(map, std::size_t{page} * 56, 56));
     }
     Bytes back;
     for (Byte page = 0; page < 6; ++page)
         back = wire::prefixed(back, ask({0x8C, 2, 0xFF, page}));
-    QCOMPARE(back, Bytes(map.begin(), map.begin() + 384));
+    QCOMPARE(back, part(map, 0, 384));
     QCOMPARE(keyboard->state().pictures.completeWrites(), 1u);
     QCOMPARE(keyboard->state().pictures.colour(2, 127), (sim::Colour{map[381], map[382], map[383]}));
     QCOMPARE(keyboard->frameFaults(), sim::FrameFaults{});
@@ -245,9 +246,9 @@ void TestSimKeyboard::assemblesMacro()
     Bytes blob(112, 0x11);
     blob[0] = 0x2C;
     blob[1] = 0x01;
-    ask({0x0B, 3, 0, 56, 0}, Bytes(blob.begin(), blob.begin() + 56));
+    ask({0x0B, 3, 0, 56, 0}, part(blob, 0, 56));
     QVERIFY(!keyboard->state().macros.find(3)->complete);
-    ask({0x0B, 3, 1, 56, 1}, Bytes(blob.begin() + 56, blob.end()));
+    ask({0x0B, 3, 1, 56, 1}, part(blob, 56, 56));
     const sim::KeyboardState state = keyboard->state();
     QVERIFY(state.macros.find(3)->complete);
     QCOMPARE(state.macros.find(3)->blob, blob);
@@ -321,7 +322,7 @@ void TestSimKeyboard::streamsKeyTest()
     ask({0x1B, 1});
     QVERIFY(keyboard->keyTestRunning());
     QCOMPARE(hid_read_timeout(input.get(), report.data(), report.size(), 1000), 64);
-    QCOMPARE(Bytes(report.begin(), report.begin() + 4), Bytes({0x05, 0x1B, 0xD0, 0x02}));
+    QCOMPARE(part(report, 0, 4), Bytes({0x05, 0x1B, 0xD0, 0x02}));
     QCOMPARE(hid_read(input.get(), report.data(), report.size()), 0); // the finger rests
 
     keyboard->moveFinger(0, {{100ms, 0}});
@@ -365,8 +366,7 @@ void TestSimKeyboard::oldFirmwareHasNoMagnetism()
     const DevicePtr old = VirtualBus::instance().plug("wired-2ff");
     const wire::Handle handle = wire::open(old, Channel::Command);
     const Bytes identity = wire::askWired(handle.get(), wire::close({0x8F}));
-    QCOMPARE(Bytes(identity.begin(), identity.begin() + 9),
-             Bytes({0x8F, 0x09, 0x07, 0, 0, 0, 0, 0xFF, 0x02}));
+    QCOMPARE(part(identity, 0, 9), Bytes({0x8F, 0x09, 0x07, 0, 0, 0, 0, 0xFF, 0x02}));
     wire::askWired(handle.get(), wire::close({0xE5, 0, 1, 0}));
     QCOMPARE(old->frameFaults().unknown, 1u);
 }
@@ -378,7 +378,7 @@ void TestSimKeyboard::answersWireless()
     wire::sendWireless(handle.get(), wire::close({0x8F}));
     const Bytes identity = wire::readWireless(handle.get());
     QCOMPARE(identity.size(), std::size_t{66});
-    QCOMPARE(Bytes(identity.begin(), identity.begin() + 7), Bytes({0x06, 0x55, 0x8F, 0xF7, 0x0A, 0, 0}));
+    QCOMPARE(part(identity, 0, 7), Bytes({0x06, 0x55, 0x8F, 0xF7, 0x0A, 0, 0}));
 
     radio->faultAtFrame(0, virtualhid::Fault::notice());
     wire::sendWireless(handle.get(), wire::close({0x86}));
@@ -387,7 +387,7 @@ void TestSimKeyboard::answersWireless()
     QVERIFY(wire::readWireless(handle.get(), 10).empty());
 
     const Bytes battery = wire::askWired(handle.get(), wire::close({0xF7}));
-    QCOMPARE(Bytes(battery.begin(), battery.begin() + 6), Bytes({0, 80, 0, 0, 0, 1}));
+    QCOMPARE(part(battery, 0, 6), Bytes({0, 80, 0, 0, 0, 1}));
 }
 
 void TestSimKeyboard::receiverFetchesKeyboard_data()
@@ -405,7 +405,7 @@ void TestSimKeyboard::receiverFetchesKeyboard()
     const bool paired = id.front() != 0;
     const DevicePtr receiver = VirtualBus::instance().plug(model.toStdString(), {.battery = 55});
     const wire::Handle handle = wire::open(receiver, Channel::Command);
-    const auto askReceiver = [&handle](Bytes header) {
+    const auto askReceiver = [&handle](const Bytes &header) {
         return wire::askWired(handle.get(), wire::close(header));
     };
     receiver->setReceiver({.paired = paired, .pollsUntilOnline = 1, .pollsUntilAnswered = 1});
@@ -422,7 +422,7 @@ void TestSimKeyboard::receiverFetchesKeyboard()
         QCOMPARE(status[0], Byte{0});
         QCOMPARE(status[1], paired ? Byte{55} : Byte{0});
         const Bytes fetched = askReceiver({0xFC});
-        QCOMPARE(Bytes(fetched.begin() + 1, fetched.begin() + 5), id);
+        QCOMPARE(part(fetched, 1, 4), id);
     }
     QCOMPARE(receiver->frameFaults(), sim::FrameFaults{});
 }
@@ -452,7 +452,7 @@ void TestSimKeyboard::otherFamiliesAnswerProbes()
     report[63] = 0x6C;
     hid_write(by.get(), report.data(), report.size());
     QCOMPARE(hid_read_timeout(by.get(), report.data(), report.size(), 50), 64);
-    QCOMPARE(Bytes(report.begin() + 7, report.begin() + 13), Bytes({0, 0, 0, 0x12, 0x34, 0x56}));
+    QCOMPARE(part(report, 7, 6), Bytes({0, 0, 0, 0x12, 0x34, 0x56}));
 }
 
 QTEST_GUILESS_MAIN(TestSimKeyboard)

@@ -2,7 +2,9 @@
 
 #include "Wire.h"
 
+#include <algorithm>
 #include <atomic>
+#include <QRandomGenerator>
 #include <QtTest>
 #include <thread>
 
@@ -57,6 +59,7 @@ private Q_SLOTS:
     void replugKeepsStateAndPath();
     void closedHandleIsNoticed();
     void everyHandleGetsInput();
+    void survivesAnyReport();
     void threadsShareTheBus();
 };
 
@@ -286,6 +289,33 @@ void TestVirtualBus::everyHandleGetsInput()
     QCOMPARE(wire::readWireless(asking.get()), wire::readWireless(listening.get()));
     const wire::Handle late = wire::open(device, Channel::Bluetooth);
     QVERIFY(wire::readWireless(late.get(), 0).empty());
+}
+
+void TestVirtualBus::survivesAnyReport()
+{
+    QRandomGenerator random{20};
+    for (const sim::Model &model : sim::Models) {
+        const DevicePtr device = VirtualBus::instance().plug(model.name);
+        for (const Channel channel : model.channelList()) {
+            const wire::Handle handle = wire::open(device, channel);
+            for (int i = 0; i < 2000; ++i) {
+                // Half of them are well framed, so that they get as far as the commands.
+                Bytes header(7);
+                Bytes noise(random.bounded(80u));
+                std::ranges::generate(header, [&random] { return static_cast<Byte>(random.generate()); });
+                std::ranges::generate(noise, [&random] { return static_cast<Byte>(random.generate()); });
+                header[0] = i % 4 == 0 ? Byte{0x65} : header[0];
+                noise.resize(i % 2 ? noise.size() : std::min<std::size_t>(noise.size(), 56));
+                const Bytes prefix = channel == Channel::Bluetooth ? Bytes{0x06, 0x55} : Bytes{0x00};
+                const Bytes report = i % 2 ? noise : wire::prefixed(prefix, wire::close(header, noise));
+                Bytes reply(80);
+                hid_write(handle.get(), report.data(), report.size());
+                hid_read_timeout(handle.get(), reply.data(), reply.size(), 0);
+                hid_send_feature_report(handle.get(), report.data(), report.size());
+                QVERIFY(hid_get_feature_report(handle.get(), reply.data(), reply.size()) <= 65);
+            }
+        }
+    }
 }
 
 void TestVirtualBus::threadsShareTheBus()

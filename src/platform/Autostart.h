@@ -11,7 +11,8 @@ bool isEnabled();
 void enable(const QString &program);
 /// Removes the user's entry.
 void disable();
-/// Removes an entry that an installer may have made for all users. Without the right to do so nothing happens.
+/// Removes an entry that an installer may have made for all users. Without the right to do so nothing
+/// happens.
 void removeForAllUsers();
 
 } // namespace autostart

@@ -8,9 +8,10 @@
 
 class QSettings;
 
-/// What hosting a driver program asks of the operating system: its processes, its window, and the values that hub
-/// and drivers hand each other. GUI thread only. Nothing fails loudly: a window that is gone, a program that isn't
-/// there, or a desktop that doesn't offer an operation changes nothing and leaves a line in the log.
+/// What hosting a driver program asks of the operating system: its processes, its window, and the values that
+/// hub and drivers hand each other. GUI thread only. Nothing fails loudly: a window that is gone, a program
+/// that isn't there, or a desktop that doesn't offer an operation changes nothing and leaves a line in the
+/// log.
 class SiblingOperations
 {
 public:
@@ -53,7 +54,8 @@ public:
     virtual void redraw(Window window, unsigned flags) = 0;
     /// Native pixels; null for a window that is gone.
     virtual QRect rect(Window window) = 0;
-    /// Shapes the window to its size with round corners at the bottom and square ones in the top \a squareTop pixels.
+    /// Shapes the window to its size with round corners at the bottom and square ones in the top \a squareTop
+    /// pixels.
     virtual void shapeRoundBottom(Window window, const QSize &size, int cornerSize, int squareTop) = 0;
     /// Asks the window to close, as its close button does; doesn't wait.
     virtual void postClose(Window window) = 0;

@@ -1,0 +1,7 @@
+#include "ConsoleCodePage.h"
+
+namespace platform {
+
+void useUtf8Console() {}
+
+} // namespace platform

@@ -22,8 +22,8 @@ std::optional<Frame> unwrap(ByteView report, ByteView prefix, FrameFaults &fault
 
 Bytes wrap(ByteView prefix, const Page &page)
 {
-    Bytes report{prefix.begin(), prefix.end()};
-    report.insert(report.end(), page.begin(), page.end());
+    Bytes report(prefix.size() + page.size());
+    std::ranges::copy(page, std::ranges::copy(prefix, report.begin()).out);
     return report;
 }
 

@@ -262,7 +262,7 @@ void TestVirtualBus::replugKeepsStateAndPath()
     bus.replug(device);
     QVERIFY(wire::askWired(old.get(), wire::close({0x86})).empty());
     const wire::Handle fresh{hid_open_path(path.c_str())};
-    QCOMPARE(wire::askWired(fresh.get(), wire::close({0x86}))[1], Byte{9});
+    QCOMPARE(wire::askWired(fresh.get(), wire::close({0x86})).at(1), Byte{9});
     QCOMPARE(bus.openHandles(path), 2);
 }
 
@@ -285,8 +285,10 @@ void TestVirtualBus::everyHandleGetsInput()
     const DevicePtr device = VirtualBus::instance().plug("bluetooth");
     const wire::Handle asking = wire::open(device, Channel::Bluetooth);
     const wire::Handle listening = wire::open(device, Channel::Bluetooth);
+    const wire::Handle other = wire::open(VirtualBus::instance().plug("bluetooth"), Channel::Bluetooth);
     wire::sendWireless(asking.get(), wire::close({0x86}));
     QCOMPARE(wire::readWireless(asking.get()), wire::readWireless(listening.get()));
+    QVERIFY(wire::readWireless(other.get(), 0).empty());
     const wire::Handle late = wire::open(device, Channel::Bluetooth);
     QVERIFY(wire::readWireless(late.get(), 0).empty());
 }

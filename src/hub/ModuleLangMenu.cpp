@@ -1,6 +1,7 @@
 #include "ModuleLangMenu.h"
 
 #include "Languages.h"
+#include "Look.h"
 #include "ui_ModuleLangMenu.h"
 
 #include <QAbstractButton>
@@ -60,6 +61,11 @@ void ModuleLangMenu::selectLanguage(int index)
 {
     if (QAbstractButton *button = buttons->button(index))
         button->click();
+}
+
+void ModuleLangMenu::paintEvent(QPaintEvent *)
+{
+    look::paintStyledBackground(this);
 }
 
 void ModuleLangMenu::choose(int index)

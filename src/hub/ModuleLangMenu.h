@@ -31,6 +31,9 @@ Q_SIGNALS:
     /// again.
     void onLangChanged(int langId, QString lang);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void choose(int index);
 

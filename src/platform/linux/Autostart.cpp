@@ -1,11 +1,11 @@
 #include "Autostart.h"
 
 #include "PlatformLog.h"
+#include "UserConfig.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 namespace autostart {
 
@@ -13,8 +13,7 @@ namespace {
 
 QString entryFolder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/autostart");
+    return platform::userConfigRoot() + QStringLiteral("/autostart");
 }
 
 QString entryFile()

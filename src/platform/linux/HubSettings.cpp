@@ -1,7 +1,8 @@
 #include "HubSettings.h"
 
+#include "UserConfig.h"
+
 #include <QSettings>
-#include <QStandardPaths>
 
 namespace platform {
 
@@ -9,8 +10,7 @@ namespace {
 
 QString settingsFile(const char *brand)
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/OrbeHub/%1.ini").arg(QLatin1String(brand));
+    return QStringLiteral("%1/OrbeHub/%2.ini").arg(userConfigRoot(), QLatin1String(brand));
 }
 
 } // namespace
@@ -20,6 +20,11 @@ QSettings &hubSettings(bool secondBrand)
     static QSettings first(settingsFile("Orbe"), QSettings::IniFormat);
     static QSettings second(settingsFile("Tarnwick"), QSettings::IniFormat);
     return secondBrand ? second : first;
+}
+
+void fetchForeignValues(QSettings &settings)
+{
+    settings.sync();
 }
 
 } // namespace platform

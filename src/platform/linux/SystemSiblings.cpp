@@ -1,11 +1,12 @@
-#include "LinuxSiblings.h"
+#include "SystemSiblings.h"
 
+#include "EmbeddedWindows.h"
+#include "ForeignWindows.h"
 #include "PlatformLog.h"
 #include "X11.h"
 
 #include <array>
 #include <cmath>
-#include <QSettings>
 #include <vector>
 #include <xcb/shape.h>
 
@@ -23,53 +24,45 @@ void configure(SiblingOperations::Window window, quint16 mask, const std::vector
 
 } // namespace
 
-std::unique_ptr<SiblingOperations> SiblingOperations::create(QSettings &settings)
+struct SystemSiblings::Desktop
 {
-    return std::make_unique<LinuxSiblings>(settings);
-}
-
-bool LinuxSiblings::canHost(const char *operation)
-{
-    if (x11::connection())
-        return true;
-    if (!reported.contains(operation)) {
-        reported.insert(operation);
-        qCInfo(lcPlatform) << "This desktop has no way to" << operation << "windows of other programs";
+    /// Whether the desktop has foreign windows at all; says so once for each operation if it hasn't.
+    bool offers(const char *operation)
+    {
+        if (x11::connection())
+            return true;
+        if (!told.contains(operation)) {
+            told.insert(operation);
+            qCInfo(lcPlatform) << "This desktop has no way to" << operation << "windows of other programs";
+        }
+        return false;
     }
-    return false;
+
+    ForeignWindows windows;
+    EmbeddedWindows embedded;
+    QSet<QByteArray> told;
+};
+
+SystemSiblings::SystemSiblings(QSettings &shared)
+    : settings(shared)
+    , desktop(std::make_unique<Desktop>())
+{
 }
 
-void LinuxSiblings::startProgram(const QString &path)
-{
-    // A driver that isn't installed is asked for again and again, and its absence told once.
-    if (!processes.start(path) && !missingPrograms.contains(path)) {
-        missingPrograms.insert(path);
-        qCInfo(lcPlatform) << "No program to start at" << path;
-    }
-}
+SystemSiblings::~SystemSiblings() = default;
 
-bool LinuxSiblings::isRunning(const QString &process)
+SiblingOperations::Window SystemSiblings::findWindow(const QString &title)
 {
-    return processes.isRunning(process);
-}
-
-void LinuxSiblings::endProcess(const QString &process)
-{
-    processes.end(process);
-}
-
-SiblingOperations::Window LinuxSiblings::findWindow(const QString &title)
-{
-    return canHost("find") ? windows.find(title) : 0;
+    return desktop->offers("find") ? desktop->windows.find(title) : 0;
 }
 
 // Of all styles the frame is what a window manager can be asked for; the hint has been common to all of them
 // since Motif.
-void LinuxSiblings::setStyles(Window window, quint32 style, quint32)
+void SystemSiblings::setStyles(Window window, quint32 style, quint32)
 {
     constexpr quint32 CaptionStyle = 0x00C00000;
     constexpr quint32 DecorationsFlag = 1u << 1;
-    if (!canHost("style"))
+    if (!desktop->offers("style"))
         return;
     const quint32 decorations = (style & CaptionStyle) == CaptionStyle ? 1 : 0;
     const std::array<quint32, 5> hints{DecorationsFlag, 0, decorations, 0, 0};
@@ -79,17 +72,17 @@ void LinuxSiblings::setStyles(Window window, quint32 style, quint32)
                 "style");
 }
 
-void LinuxSiblings::setParent(Window window, Window parent)
+void SystemSiblings::setParent(Window window, Window parent)
 {
-    if (!canHost("embed"))
+    if (!desktop->offers("embed"))
         return;
     hide(window); // withdrawn, so that the window manager lets go of it
-    embedded.take(id(window), id(parent));
+    desktop->embedded.take(id(window), id(parent));
 }
 
-void LinuxSiblings::place(Window window, Order order, const QRect &rect, unsigned flags)
+void SystemSiblings::place(Window window, Order order, const QRect &rect, unsigned flags)
 {
-    if (!canHost("place"))
+    if (!desktop->offers("place"))
         return;
     if (flags & HideWindow)
         hide(window);
@@ -110,21 +103,21 @@ void LinuxSiblings::place(Window window, Order order, const QRect &rect, unsigne
         show(window);
 }
 
-void LinuxSiblings::show(Window window)
+void SystemSiblings::show(Window window)
 {
-    if (!canHost("show"))
+    if (!desktop->offers("show"))
         return;
     x11::isDone(xcb_map_window_checked(x11::connection(), id(window)), "show");
 }
 
-void LinuxSiblings::hide(Window window)
+void SystemSiblings::hide(Window window)
 {
-    if (!canHost("hide"))
+    if (!desktop->offers("hide"))
         return;
     // Comes several times a second while the hub shows, so nothing is waited for.
     xcb_connection_t *server = x11::connection();
     x11::letGo(xcb_unmap_window_checked(server, id(window)));
-    if (embedded.contains(id(window)))
+    if (desktop->embedded.contains(id(window)))
         return;
     // A top-level window is withdrawn only once its manager has been told, too.
     xcb_unmap_notify_event_t notice{};
@@ -137,15 +130,15 @@ void LinuxSiblings::hide(Window window)
                                reinterpret_cast<const char *>(&notice)));
 }
 
-void LinuxSiblings::bringToTop(Window window)
+void SystemSiblings::bringToTop(Window window)
 {
-    if (canHost("raise"))
+    if (desktop->offers("raise"))
         configure(window, XCB_CONFIG_WINDOW_STACK_MODE, {XCB_STACK_MODE_ABOVE});
 }
 
-void LinuxSiblings::move(Window window, const QRect &rect)
+void SystemSiblings::move(Window window, const QRect &rect)
 {
-    if (canHost("move")) {
+    if (desktop->offers("move")) {
         configure(window,
                   XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
                       XCB_CONFIG_WINDOW_HEIGHT,
@@ -153,25 +146,25 @@ void LinuxSiblings::move(Window window, const QRect &rect)
     }
 }
 
-void LinuxSiblings::setForeground(Window window)
+void SystemSiblings::setForeground(Window window)
 {
     constexpr quint32 FromPager = 2;
-    if (canHost("activate"))
+    if (desktop->offers("activate"))
         x11::tellWindowManager(id(window), x11::atom("_NET_ACTIVE_WINDOW"),
                                {FromPager, XCB_CURRENT_TIME, 0, 0, 0});
 }
 
-void LinuxSiblings::redraw(Window window, unsigned)
+void SystemSiblings::redraw(Window window, unsigned)
 {
-    if (!canHost("redraw"))
+    if (!desktop->offers("redraw"))
         return;
     constexpr quint8 WithExposure = 1;
     x11::isDone(xcb_clear_area_checked(x11::connection(), WithExposure, id(window), 0, 0, 0, 0), "redraw");
 }
 
-QRect LinuxSiblings::rect(Window window)
+QRect SystemSiblings::rect(Window window)
 {
-    if (!canHost("measure"))
+    if (!desktop->offers("measure"))
         return {};
     xcb_connection_t *server = x11::connection();
     const auto geometryCookie = xcb_get_geometry(server, id(window));
@@ -185,9 +178,9 @@ QRect LinuxSiblings::rect(Window window)
     return {origin->dst_x, origin->dst_y, geometry->width, geometry->height};
 }
 
-void LinuxSiblings::shapeRoundBottom(Window window, const QSize &size, int cornerSize, int squareTop)
+void SystemSiblings::shapeRoundBottom(Window window, const QSize &size, int cornerSize, int squareTop)
 {
-    if (!canHost("shape") || !x11::hasExtension(&xcb_shape_id))
+    if (!desktop->offers("shape") || !x11::hasExtension(&xcb_shape_id))
         return;
     // One rectangle for all that is as wide as the window, and one a line for the round corners below it.
     const int radius = std::min(cornerSize / 2, size.height() / 2);
@@ -204,22 +197,10 @@ void LinuxSiblings::shapeRoundBottom(Window window, const QSize &size, int corne
                 "shape");
 }
 
-void LinuxSiblings::postClose(Window window)
+void SystemSiblings::postClose(Window window)
 {
-    if (canHost("close")) {
+    if (desktop->offers("close")) {
         x11::tellWindow(id(window), x11::atom("WM_PROTOCOLS"),
                         {x11::atom("WM_DELETE_WINDOW"), XCB_CURRENT_TIME, 0, 0, 0});
     }
-}
-
-QVariant LinuxSiblings::value(const QString &key, const QVariant &fallback)
-{
-    settings.sync(); // a driver may have written the file since
-    return settings.value(key, fallback);
-}
-
-// Reaches the file with the next turn of the event loop, all values of one turn together.
-void LinuxSiblings::setValue(const QString &key, const QVariant &value)
-{
-    settings.setValue(key, value);
 }

@@ -1,21 +1,20 @@
 #pragma once
 
-#include "EmbeddedWindows.h"
-#include "ForeignWindows.h"
 #include "Processes.h"
 #include "SiblingOperations.h"
 
+#include <memory>
 #include <QSet>
 
-/// Hosting with what a Linux desktop gives: /proc and signals for processes, the X server for windows, a file
-/// for the values. On a desktop without X11 the windows' part does nothing and says so once.
-class LinuxSiblings : public SiblingOperations
+class QSettings;
+
+/// The operations as this system has them. On Linux those on windows work where the desktop is X11; elsewhere
+/// they do nothing, and say so once.
+class SystemSiblings : public SiblingOperations
 {
 public:
-    explicit LinuxSiblings(QSettings &values)
-        : settings(values)
-    {
-    }
+    explicit SystemSiblings(QSettings &settings);
+    ~SystemSiblings() override;
 
     void startProgram(const QString &path) override;
     bool isRunning(const QString &process) override;
@@ -39,12 +38,10 @@ public:
     void setValue(const QString &key, const QVariant &value) override;
 
 private:
-    bool canHost(const char *operation);
-
     QSettings &settings;
     Processes processes;
-    ForeignWindows windows;
-    EmbeddedWindows embedded;
     QSet<QString> missingPrograms;
-    QSet<QByteArray> reported; ///< operations that were said to be missing
+
+    struct Desktop; ///< what the system's folder needs for windows
+    std::unique_ptr<Desktop> desktop;
 };

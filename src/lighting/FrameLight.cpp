@@ -1,0 +1,7 @@
+#include "FrameLight.h"
+
+FrameLight::FrameLight(QWidget *parent)
+    : QFrame(parent)
+{
+    setObjectName(QStringLiteral("FrameLight"));
+}

@@ -52,18 +52,20 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void buildPages();
     void buildNavigation();
     void buildToolbar();
-    void buildPages();
     void connectToolbar();
     void connectConnection();
     void showTips();
-    void showName(const QString &name);
+    void showName();
+    void showBusy(bool busy);
 
     std::unique_ptr<Ui::FrameDeviceHolder> ui;
     DeviceEnumInfo *currentDevice = nullptr;
     QList<SuperLabel *> labels; ///< by index, as the pages
     QList<QWidget *> pages;
+    QString deviceName;
     FrameMain *home = nullptr;
     FrameKeySetting *keySettings = nullptr;
 };

@@ -1,0 +1,252 @@
+#include "FrameDeviceHolder.h"
+
+#include "DeviceNameText.h"
+#include "DialogDeviceConnect.h"
+#include "FocusRing.h"
+#include "FrameAbout.h"
+#include "FrameKeySetting.h"
+#include "FrameLight.h"
+#include "FrameMacro.h"
+#include "FrameMagic.h"
+#include "FrameMain.h"
+#include "HubLog.h"
+#include "Look.h"
+#include "ShellStyle.h"
+#include "SuperLabel.h"
+#include "ui_FrameDeviceHolder.h"
+
+#include <array>
+#include <QEvent>
+#include <utility>
+
+namespace {
+
+/// A place of the navigation column.
+struct Place
+{
+    const char *picture; ///< a name among the pairs of pictures, or the path of an only one
+    const char *tip;
+};
+
+constexpr std::array Places{
+    Place{"shouye", QT_TRANSLATE_NOOP("FrameDeviceHolder", "首页")},
+    Place{"jianweishezhi", QT_TRANSLATE_NOOP("FrameDeviceHolder", "键盘设置")},
+    Place{"cizhoushezhi", QT_TRANSLATE_NOOP("FrameDeviceHolder", "磁轴设置")},
+    Place{"hongshezhi", QT_TRANSLATE_NOOP("FrameDeviceHolder", "宏设置")},
+    // The form calls this one 灯效设置, and that stands until the first change of language.
+    Place{"dengxiaoshezhi", QT_TRANSLATE_NOOP("FrameDeviceHolder", "灯光设置")},
+    Place{"guanyu", QT_TRANSLATE_NOOP("FrameDeviceHolder", "关于")},
+    Place{":/images/User.png", QT_TRANSLATE_NOOP("FrameDeviceHolder", "用户")},
+    Place{":/images/btn-return.png", QT_TRANSLATE_NOOP("FrameDeviceHolder", "返回")},
+};
+
+constexpr int HomePage = 0;
+constexpr int KeyPage = 1;
+constexpr int FirstLeavingPlace = 6; ///< from here on a place leaves the shell
+constexpr QSize PageSize(1124, 740);
+
+constexpr int Layers = 4;
+constexpr int FirstLayerId = -2; ///< automatic ids of a button group run downward from here
+
+const QString PlaceStyle = QStringLiteral("QLabel { background-color: transparent; }");
+const QString SelectedPlaceStyle =
+    QStringLiteral("QLabel { background-color: #6329B6; border-radius: 16px;}");
+
+/// The picture of a place, selected or not.
+QString picturePath(const char *picture, bool selected)
+{
+    const QLatin1String name(picture);
+    if (name.startsWith(u':'))
+        return name;
+    return QStringLiteral(":/images/leftbtns/%1/%2.png").arg(int(selected)).arg(name);
+}
+
+void showPicture(QLabel *label, const QString &path)
+{
+    label->setPixmap(path.isEmpty() ? QPixmap() : look::picture(path, label));
+}
+
+} // namespace
+
+FrameDeviceHolder::FrameDeviceHolder(QWidget *parent)
+    : QFrame(parent)
+    , ui(std::make_unique<Ui::FrameDeviceHolder>())
+{
+    ui->setupUi(this);
+    new DialogDeviceConnect(this);
+    buildPages();
+    buildNavigation();
+    buildToolbar();
+    connectToolbar();
+    connectConnection();
+    showPage(labels.at(HomePage), HomePage);
+}
+
+FrameDeviceHolder::~FrameDeviceHolder() = default;
+
+void FrameDeviceHolder::buildPages()
+{
+    QWidget *frame = ui->FrameHoder;
+    keySettings = new FrameKeySetting(frame);
+    keySettings->hide();
+    home = new FrameMain(frame);
+    auto *magnetic = new FrameMagic(frame);
+    auto *macros = new FrameMacro(frame);
+    auto *light = new FrameLight(frame);
+    auto *about = new FrameAbout(frame);
+    pages = {home, keySettings, magnetic, macros, light, about};
+    for (QWidget *page : std::as_const(pages)) {
+        page->setFixedSize(PageSize);
+        ui->horizontalLayoutBR->addWidget(page, 0, Qt::AlignRight);
+    }
+}
+
+void FrameDeviceHolder::buildNavigation()
+{
+    labels = {ui->label1, ui->label2, ui->label3, ui->label4, ui->label5, ui->label6, ui->label7, ui->label8};
+    for (qsizetype i = 0; i < labels.size(); ++i) {
+        SuperLabel *label = labels.at(i);
+        const char *picture = Places.at(size_t(i)).picture;
+        label->setPictures(picturePath(picture, true), picturePath(picture, false));
+        label->setStyles(SelectedPlaceStyle, PlaceStyle);
+        label->installEventFilter(this);
+    }
+    ui->label6->hide();
+    ui->label7->hide();
+}
+
+void FrameDeviceHolder::buildToolbar()
+{
+    showPicture(ui->labelConn, QStringLiteral(":/images/dev/usb.png"));
+    ui->labelBatt->hide();
+    ui->pushButtonPairing->hide();
+    look::setStyleOnce(ui->horizontalFrame, shellstyle::LayerButtons);
+    const auto layerButtons = ui->buttonGroupLayer->buttons();
+    for (QAbstractButton *button : layerButtons) {
+        button->installEventFilter(this);
+        FocusRing::follow(button, look::PillRadius);
+    }
+    for (QPushButton *button : {ui->pushButtonPairing, ui->pushButtonReset, ui->pushButtonFixline}) {
+        look::setStyleOnce(button, shellstyle::ActionButton);
+        FocusRing::follow(button, look::PillRadius);
+    }
+}
+
+void FrameDeviceHolder::connectToolbar()
+{
+    connect(ui->buttonGroupLayer, &QButtonGroup::idClicked, this, [](int id) {
+        const int layer = FirstLayerId - id;
+        if (layer >= 0 && layer < Layers)
+            DialogDeviceConnect::instance()->DoSetProfile(quint8(layer));
+    });
+    // The restore sequence itself begins by putting the factory maps in place of those read.
+    connect(ui->pushButtonReset, &QPushButton::clicked, DialogDeviceConnect::instance(),
+            &DialogDeviceConnect::DoFactoryReset);
+    connect(ui->pushButtonFixline, &QPushButton::clicked, this, &FrameDeviceHolder::calibrationWanted);
+    connect(ui->pushButtonPairing, &QPushButton::clicked, this, &FrameDeviceHolder::pairingWanted);
+}
+
+void FrameDeviceHolder::connectConnection()
+{
+    const DialogDeviceConnect *connection = DialogDeviceConnect::instance();
+    connect(connection, &DialogDeviceConnect::onReadAll, this, [this] { showBusy(true); });
+    connect(connection, &DialogDeviceConnect::onReadDone, this, [this] {
+        qCDebug(lcHub) << "DialogDeviceConnect::onReadDone";
+        showBusy(false);
+        keySettings->RefreshPage();
+    });
+}
+
+void FrameDeviceHolder::setDevice(DeviceEnumInfo *device, const QString &image, const QString &name)
+{
+    currentDevice = device;
+    home->setDevicePicture(image);
+    deviceName = name;
+    showName();
+}
+
+void FrameDeviceHolder::showPage(SuperLabel *label, int index)
+{
+    if (DialogDeviceConnect::instance()->isReadingAll())
+        return;
+    if (index >= FirstLeavingPlace && index < labels.size()) {
+        Q_EMIT onReturn();
+        return;
+    }
+    if (!label || index < 0 || index >= pages.size())
+        return;
+    label->setSelected(true);
+    for (QWidget *page : std::as_const(pages))
+        page->hide();
+    pages.at(index)->show();
+    ui->horizontalFrame->setVisible(index == KeyPage); // the profiles belong to the key settings
+}
+
+void FrameDeviceHolder::setLayer(int layer)
+{
+    if (layer < 0 || layer >= Layers)
+        return;
+    if (QAbstractButton *button = ui->buttonGroupLayer->button(FirstLayerId - layer))
+        button->click();
+}
+
+void FrameDeviceHolder::showBattery(DeviceEnumInfo *device, const QString &battImg, const QString &typeImg,
+                                    const QString &tip, const QString &style)
+{
+    if (!device || device != currentDevice)
+        return;
+    ui->labelBatt->setHidden(battImg.isEmpty());
+    showPicture(ui->labelBatt, battImg);
+    look::setStyleOnce(ui->labelBatt, style);
+    ui->labelBatt->setToolTip(tip);
+    ui->labelBatt->setAccessibleName(tip);
+    showPicture(ui->labelConn, typeImg);
+}
+
+void FrameDeviceHolder::showName()
+{
+    // The profiles and the charge keep their room while they are hidden: the name doesn't jump.
+    const int gap = ui->layoutToolbar->spacing();
+    const QMargins margins = ui->layoutToolbar->contentsMargins();
+    int room = ui->FrameToolbar->minimumWidth() - margins.left() - margins.right() - gap;
+    for (const QWidget *widget : std::initializer_list<QWidget *>{
+             ui->labelConn, ui->labelBatt, ui->horizontalFrame, ui->pushButtonReset, ui->pushButtonFixline}) {
+        widget->ensurePolished();
+        room -= qMax(widget->sizeHint().width(), widget->minimumWidth()) + gap;
+    }
+    devicename::show(ui->labelName, deviceName, room);
+}
+
+/// Tells the pointer that navigation waits for the end of a read.
+void FrameDeviceHolder::showBusy(bool busy)
+{
+    for (SuperLabel *label : std::as_const(labels))
+        label->setCursor(busy ? Qt::BusyCursor : Qt::PointingHandCursor);
+}
+
+void FrameDeviceHolder::showTips()
+{
+    for (qsizetype i = 0; i < labels.size(); ++i)
+        labels.at(i)->setTip(tr(Places.at(size_t(i)).tip));
+}
+
+bool FrameDeviceHolder::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        if (auto *label = qobject_cast<SuperLabel *>(watched))
+            showPage(label, int(labels.indexOf(label)));
+        else if (auto *button = qobject_cast<QAbstractButton *>(watched))
+            button->click(); // also for a press that began elsewhere; the button's own release finds it up
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void FrameDeviceHolder::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        showTips();
+        showName();
+    }
+    QFrame::changeEvent(event);
+}

@@ -38,7 +38,7 @@ build_preset() { # preset, targets ...
     }
 }
 
-# Starts a private X server with a window manager and sets DISPLAY; both end with this script.
+# Starts a private X server with a window manager and a compositor, as a desktop has them, and sets DISPLAY; all of it ends with this script.
 start_xvfb() {
     local number_file
     number_file=$(mktemp)
@@ -54,7 +54,9 @@ start_xvfb() {
     unset WAYLAND_DISPLAY
     openbox >/dev/null 2>&1 &
     openbox_pid=$!
-    trap 'kill "$openbox_pid" "$xvfb_pid" 2>/dev/null || true' EXIT
+    xcompmgr >/dev/null 2>&1 &
+    compositor_pid=$!
+    trap 'kill "$compositor_pid" "$openbox_pid" "$xvfb_pid" 2>/dev/null || true' EXIT
 }
 
 has_display() { [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; }

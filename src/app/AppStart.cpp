@@ -1,16 +1,15 @@
 #include "AppStart.h"
 
+#include "ConsoleCodePage.h"
 #include "MainWindow.h"
+#include "Siblings.h"
 
 #include <array>
 #include <clocale>
-#include <QApplication>
 #include <QDebug>
-#include <QDir>
 #include <QFontDatabase>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QTranslator>
 
 namespace {
 
@@ -58,42 +57,40 @@ void loadQtTranslators(QTranslator &base, QTranslator &qt)
     QCoreApplication::installTranslator(&qt);
 }
 
-/// The folder that the sibling drivers lie in: beside the program, or one level up.
-QString siblingRoot()
-{
-    QString root = QCoreApplication::applicationDirPath();
-    if (!QDir(root + QStringLiteral("/RyExe")).exists())
-        root += QStringLiteral("/..");
-    return root;
-}
-
 void loadFonts()
 {
-    const QString folder = siblingRoot() + QStringLiteral("/WsExe/font/");
+    // The fonts belong to a sibling driver; without it the system's own serve.
+    const QString folder =
+        siblingRoot(QCoreApplication::applicationDirPath()) + QStringLiteral("/WsExe/font/");
     for (const char *font : Fonts)
         QFontDatabase::addApplicationFont(folder + QLatin1String(font));
 }
 
-} // namespace
-
-int runHub(int argc, char **argv, const std::function<void()> &beforeWindow)
+int &prepared(int &argc)
 {
     // Qt 6 scales for high resolutions by itself; all there is to say is that no factor is rounded.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     std::setlocale(LC_ALL, ".UTF-8");
-    QApplication application(argc, argv);
+    return argc;
+}
 
-    QTranslator appTranslator;
+} // namespace
+
+AppStart::AppStart(int &argc, char **argv)
+    : application(prepared(argc), argv)
+{
     loadTranslator(appTranslator);
-    QTranslator qtBaseTranslator;
-    QTranslator qtTranslator;
     loadQtTranslators(qtBaseTranslator, qtTranslator);
+    platform::useUtf8Console();
     loadFonts();
     application.setStyleSheet(ApplicationStyle);
-    if (beforeWindow)
-        beforeWindow();
+}
 
-    MainWindow window;
+int AppStart::run()
+{
+    MainWindow window({&appTranslator, &qtBaseTranslator, &qtTranslator});
+    if (window.isSecondInstance())
+        return 0;
     window.show();
     return QApplication::exec();
 }

@@ -2,5 +2,6 @@
 
 int main(int argc, char **argv)
 {
-    return runHub(argc, argv);
+    AppStart start(argc, argv);
+    return start.run();
 }

@@ -1,0 +1,80 @@
+#include "DemoDesk.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+using virtualhid::VirtualBus;
+
+namespace {
+
+constexpr int Margin = 24;
+constexpr int Spacing = 8;
+constexpr int DigitKeys = 9;
+
+QString nameOf(const sim::Model &model)
+{
+    return QString::fromLatin1(model.name.data(), qsizetype(model.name.size()));
+}
+
+QString productOf(const sim::Model &model)
+{
+    return QString::fromUtf8(model.product.data(), qsizetype(model.product.size()));
+}
+
+} // namespace
+
+DemoDesk::DemoDesk(const QStringList &plugged, QWidget *parent)
+    : QWidget(parent, Qt::Window)
+{
+    setWindowTitle(tr("虚拟设备"));
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setSpacing(Spacing);
+    layout->addWidget(new QLabel(tr("插入或拔出虚拟设备："), this));
+    int number = 0;
+    for (const sim::Model &model : sim::Models)
+        addSwitch(layout, model, ++number, plugged.contains(nameOf(model)));
+}
+
+QStringList DemoDesk::modelNames()
+{
+    QStringList names;
+    for (const sim::Model &model : sim::Models)
+        names.append(nameOf(model));
+    return names;
+}
+
+void DemoDesk::addSwitch(QVBoxLayout *layout, const sim::Model &model, int number, bool plugged)
+{
+    auto *box = new QCheckBox(QStringLiteral("%1  (%2)").arg(productOf(model), nameOf(model)), this);
+    box->setObjectName(nameOf(model));
+    layout->addWidget(box);
+    connect(box, &QCheckBox::toggled, this,
+            [this, name = std::string(model.name)](bool on) { plug(name, on); });
+    box->setChecked(plugged);
+    if (number <= DigitKeys) {
+        const QKeySequence keys(Qt::CTRL | Qt::Key(Qt::Key_0 + number));
+        auto *shortcut = new QShortcut(keys, this);
+        shortcut->setContext(Qt::ApplicationShortcut);
+        connect(shortcut, &QShortcut::activated, box, &QCheckBox::toggle);
+    }
+}
+
+void DemoDesk::setPlugged(const QString &model, bool plugged)
+{
+    if (auto *box = findChild<QCheckBox *>(model))
+        box->setChecked(plugged);
+}
+
+void DemoDesk::plug(const std::string &model, bool plugged)
+{
+    virtualhid::DevicePtr &device = devices[model];
+    if (!plugged)
+        VirtualBus::instance().unplug(device);
+    else if (device)
+        VirtualBus::instance().replug(device);
+    else
+        device = VirtualBus::instance().plug(model);
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <QObject>
+#include <QQueue>
+
+class DemoDesk;
+
+/// Walks through the program by itself and leaves a picture of everything it meets in a folder. GUI thread
+/// only.
+class DemoTour : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \a folder must exist.
+    DemoTour(const QString &folder, DemoDesk *desk, QObject *parent = nullptr);
+
+    /// Begins; the application is left with code 0 at the end, with 1 if something that the tour waits for
+    /// doesn't come.
+    void start();
+
+private:
+    using Condition = std::function<bool()>;
+
+    void waitFor(const QString &what, Condition condition);
+    void act(std::function<void()> action);
+    void picture(const QString &name);
+
+    void planCards();
+    void planLanguages();
+    void planNativeKeyboard();
+    void next();
+
+    QString folder;
+    DemoDesk *desk;
+    QQueue<std::function<void()>> steps;
+};

@@ -1,6 +1,7 @@
 #include "FrameDeviceShow.h"
 
 #include "DeviceBattery.h"
+#include "DeviceNameText.h"
 #include "Look.h"
 #include "ui_FrameDeviceShow.h"
 
@@ -10,7 +11,6 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
@@ -95,19 +95,6 @@ QSize fitted(const QSize &picture, int available)
     }
     const int width = int(ratio * PictureHeight);
     return width > available ? QSize(available, int(available / ratio)) : QSize(width, PictureHeight);
-}
-
-/// The name for a label of one line.
-QString oneLine(QString name)
-{
-    static const QRegularExpression breaks(QStringLiteral("[\\p{Cc}\\p{Zl}\\p{Zp}]"));
-    return name.replace(breaks, QStringLiteral(" "));
-}
-
-/// A text as a tip. Tips guess from their text whether it is HTML; a name never is.
-QString plainTip(const QString &text)
-{
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
 
 } // namespace
@@ -252,15 +239,11 @@ void FrameDeviceShow::mousePressEvent(QMouseEvent *event)
 /// The name at the width that the card has for it, and whole for the tip and for screen readers.
 void FrameDeviceShow::showName()
 {
-    const QString name = oneLine(device->displayName);
     const QMargins margins = ui->layoutCard->contentsMargins();
     const int icons =
         (ui->labelPower->isHidden() ? 1 : 2) * (ui->labelType->width() + ui->layoutName->spacing());
     const int room = width() - margins.left() - margins.right() - icons - 2 * ui->layoutName->spacing();
-    ui->labelDeviceName->ensurePolished();
-    ui->labelDeviceName->setText(ui->labelDeviceName->fontMetrics().elidedText(name, Qt::ElideRight, room));
-    ui->labelDeviceName->setToolTip(plainTip(device->displayName));
-    ui->labelDeviceName->setAccessibleName(device->displayName);
+    devicename::show(ui->labelDeviceName, device->displayName, room);
     setAccessibleName(device->displayName);
 }
 

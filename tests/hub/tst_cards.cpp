@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QLabel>
+#include <QPixmapCache>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -72,7 +73,8 @@ void TestCards::initTestCase()
 
 void TestCards::init()
 {
-    delete card; // the pool makes a new one
+    QPixmapCache::clear(); // it tells files apart by second and size, and tests write many in a second
+    delete card;           // the pool makes a new one
     card = FrameDeviceShow::acquire(0, &window);
     device = {};
     device.deviceType = KeyboardType;

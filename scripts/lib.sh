@@ -59,4 +59,11 @@ start_xvfb() {
     trap 'kill "$compositor_pid" "$openbox_pid" "$xvfb_pid" 2>/dev/null || true' EXIT
 }
 
+# A machine that names no language gets English: the hub can't change languages where none of the system's is known.
+name_a_language() {
+    case "${LC_ALL:-${LC_MESSAGES:-${LANG:-C}}}" in
+        C | C.* | POSIX) export LC_ALL=en_US.UTF-8 ;;
+    esac
+}
+
 has_display() { [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; }

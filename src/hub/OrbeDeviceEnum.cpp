@@ -32,7 +32,7 @@ OrbeDeviceEnum::~OrbeDeviceEnum() = default;
 void OrbeDeviceEnum::Release::operator()(OrbeDeviceEnum *thread) const
 {
     thread->stop();
-    if (thread->wait(QDeadlineTimer(FarewellTime))) {
+    if (thread->wait(QDeadlineTimer(FarewellTime)) && thread->left) {
         delete thread;
         return;
     }
@@ -50,13 +50,16 @@ void OrbeDeviceEnum::stop()
 
 void OrbeDeviceEnum::run()
 {
-    KeptHandles handles;
-    while (!stopRequested.asked()) {
-        if (scanRequested.exchange(false))
-            enumerateDevices(handles);
-        else
-            stopRequested.pause(IdleTime);
+    {
+        KeptHandles handles;
+        while (!stopRequested.asked()) {
+            if (scanRequested.exchange(false))
+                enumerateDevices(handles);
+            else
+                stopRequested.pause(IdleTime);
+        }
     }
+    left = true;
 }
 
 bool OrbeDeviceEnum::gateOpen() const

@@ -67,6 +67,7 @@ private:
 
     const bool tarnwickBuild;
     ScanStop stopRequested;
+    std::atomic_bool left = false; ///< set last by run(): what wait() tells, visible to the thread sanitizer
     std::atomic_bool scanRequested = false;
     std::atomic_bool scanning = false;
     std::atomic_bool scanSuspended = false;

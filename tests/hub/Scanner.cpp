@@ -2,9 +2,9 @@
 
 #include <QTest>
 
-Scanner::Scanner()
+Scanner::Scanner(bool tarnwickBuild)
     : bus(virtualhid::VirtualBus::instance())
-    , enumeration(OrbeDeviceEnum::launch())
+    , enumeration(OrbeDeviceEnum::launch(tarnwickBuild))
 {
     bus.reset();
     QObject::connect(&list, &DeviceList::oEnumDeiceDone, &list, [this] { ++passes; });

@@ -11,7 +11,7 @@
 class Scanner
 {
 public:
-    Scanner();
+    explicit Scanner(bool tarnwickBuild = false);
     ~Scanner();
     Scanner(const Scanner &) = delete;
     Scanner &operator=(const Scanner &) = delete;

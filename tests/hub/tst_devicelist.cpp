@@ -1,0 +1,178 @@
+#include "DeviceList.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+constexpr qint64 Now = 1'700'000'000;
+
+DeviceSighting sighting(const char *path, quint64 id = 0x0AF7, qint64 seenAt = Now)
+{
+    return {.vendorId = 0x3151,
+            .productId = 0x502F,
+            .deviceId = id,
+            .deviceType = 0xFFFF,
+            .connection = 0x102,
+            .family = CloudFamily,
+            .seenAt = seenAt,
+            .displayName = QStringLiteral("Board"),
+            .vendorPath = QStringLiteral("v"),
+            .devicePath = QLatin1String(path)};
+}
+
+ScanResult pass(std::vector<DeviceSighting> sightings, qint64 finishedAt = Now)
+{
+    ScanResult result{std::move(sightings), {}, finishedAt};
+    for (const DeviceSighting &device : result.sightings)
+        result.seenPaths.insert(device.devicePath);
+    return result;
+}
+
+} // namespace
+
+/// What becomes of the records when passes bring their sightings.
+class TestDeviceList : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newDeviceIsListed();
+    void knownDeviceKeepsAllButItsId();
+    void ageing_data();
+    void ageing();
+    void lossOfTheCurrentDevice_data();
+    void lossOfTheCurrentDevice();
+    void clearedRecordsStayUsable();
+    void scanButtonForYears();
+};
+
+void TestDeviceList::newDeviceIsListed()
+{
+    DeviceList list;
+    QSignalSpy done(&list, &DeviceList::oEnumDeiceDone);
+    list.applyPass(pass({sighting("b"), sighting("a")}));
+
+    QCOMPARE(done.count(), 1);
+    QCOMPARE(list.devices().size(), 2);
+    QCOMPARE(list.onlineCount(), 2);
+    const DeviceEnumInfo &device = *list.devices().constFirst();
+    QCOMPARE(device.devicePath, QStringLiteral("b"));
+    QCOMPARE(device.vendorPath, QStringLiteral("v"));
+    QCOMPARE(device.vendorId, 0x3151);
+    QCOMPARE(device.productId, 0x502F);
+    QCOMPARE(device.deviceId, quint64(0x0AF7));
+    QCOMPARE(device.deviceType, 255);   // low byte
+    QCOMPARE(device.connectionType, 2); // low byte
+    QCOMPARE(device.lastSeen, quint32(Now));
+    QVERIFY(device.online);
+}
+
+void TestDeviceList::knownDeviceKeepsAllButItsId()
+{
+    DeviceList list;
+    list.applyPass(pass({sighting("a")}));
+    list.applyPass(pass({}, Now + 30));
+    DeviceSighting again = sighting("a", 0x0EC3, Now + 60);
+    again.displayName = QStringLiteral("Other");
+    again.deviceType = MouseType;
+    again.connection = UsbConnection;
+    again.family = JmFamily;
+    const DeviceEnumInfo *device = list.devices().constFirst();
+    QVERIFY(!device->online);
+    list.applyPass(pass({again}, Now + 60));
+
+    QCOMPARE(list.devices(), QList<DeviceEnumInfo *>{const_cast<DeviceEnumInfo *>(device)});
+    QVERIFY(device->online);
+    QCOMPARE(device->deviceId, quint64(0x0EC3));
+    QCOMPARE(device->lastSeen, quint32(Now + 60));
+    QCOMPARE(device->displayName, QStringLiteral("Board"));
+    QCOMPARE(device->deviceType, 255);
+    QCOMPARE(device->connectionType, 2);
+    QCOMPARE(device->family, quint8(CloudFamily));
+}
+
+void TestDeviceList::ageing_data()
+{
+    QTest::addColumn<bool>("seen"); // its path was met, though it gave no id
+    QTest::addColumn<int>("seconds");
+    QTest::addColumn<bool>("online");
+    QTest::newRow("gone at once") << false << 0 << false;
+    QTest::newRow("silent for a minute") << true << 60 << true;
+    QTest::newRow("silent for longer") << true << 61 << false;
+    QTest::newRow("clock set back") << true << -100000 << true;
+}
+
+void TestDeviceList::ageing()
+{
+    QFETCH(bool, seen);
+    QFETCH(int, seconds);
+    DeviceList list;
+    list.applyPass(pass({sighting("a")}));
+
+    ScanResult later = pass({}, Now + seconds);
+    if (seen)
+        later.seenPaths.insert(QStringLiteral("a"));
+    list.applyPass(later);
+    QTEST(list.devices().constFirst()->online, "online");
+}
+
+void TestDeviceList::lossOfTheCurrentDevice_data()
+{
+    QTest::addColumn<QString>("gone");
+    QTest::addColumn<int>("losses");
+    QTest::newRow("the current one") << QStringLiteral("a") << 1;
+    QTest::newRow("another") << QStringLiteral("b") << 0;
+}
+
+void TestDeviceList::lossOfTheCurrentDevice()
+{
+    QFETCH(QString, gone);
+    QFETCH(int, losses);
+    DeviceList list;
+    list.applyPass(pass({sighting("a"), sighting("b")}));
+    list.setCurrentDevice(list.devices().constFirst());
+    QSignalSpy lost(&list, &DeviceList::currentDeviceLost);
+    // Whoever goes back to the cards may do anything to the list.
+    connect(&list, &DeviceList::currentDeviceLost, &list, &DeviceList::clear);
+
+    ScanResult next = pass({sighting("a"), sighting("b")}, Now + 1);
+    next.seenPaths.remove(gone);
+    list.applyPass(next);
+    QCOMPARE(lost.count(), losses);
+}
+
+void TestDeviceList::clearedRecordsStayUsable()
+{
+    DeviceList list;
+    list.applyPass(pass({sighting("a"), sighting("b")}));
+    const DeviceEnumInfo *held = list.devices().constFirst();
+    list.setCurrentDevice(held);
+    list.clear();
+    QVERIFY(list.devices().isEmpty());
+    QCOMPARE(list.onlineCount(), 0);
+
+    QSignalSpy lost(&list, &DeviceList::currentDeviceLost);
+    list.applyPass(pass({sighting("a", 0x0EC3)}));
+    QCOMPARE(list.devices().size(), 1);
+    QVERIFY(list.devices().constFirst() != held);
+    QCOMPARE(held->deviceId, quint64(0x0AF7));
+    list.applyPass(pass({}));
+    QCOMPARE(lost.count(), 0); // the page's record is no longer in the list
+}
+
+void TestDeviceList::scanButtonForYears()
+{
+    DeviceList list;
+    QSet<const DeviceEnumInfo *> records;
+    for (int i = 0; i < 1000; ++i) {
+        list.applyPass(pass({sighting("a"), sighting("b")}));
+        for (const DeviceEnumInfo *device : list.devices())
+            records.insert(device);
+        list.clear();
+    }
+    QCOMPARE(records.size(), 2);
+}
+
+QTEST_GUILESS_MAIN(TestDeviceList)
+#include "tst_devicelist.moc"

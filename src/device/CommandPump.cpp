@@ -17,6 +17,7 @@ constexpr auto WirelessReplyDelay = 100ms;
 constexpr auto NextCommandDelay = 10ms;
 constexpr auto WirelessReadLimit = 400ms;
 constexpr size_t ReplyBufferLength = 1024;
+constexpr int MostStrayReports = 128;
 
 using ReplyBuffer = std::array<quint8, ReplyBufferLength>;
 
@@ -90,7 +91,9 @@ void CommandPump::restart()
 
 void CommandPump::armRead(std::chrono::milliseconds delay)
 {
+    ++armedReads;
     QTimer::singleShot(delay, Qt::PreciseTimer, this, [this, forLink = linkNumber, forRun = runNumber] {
+        --armedReads;
         if (forLink != linkNumber)
             return;
         if (forRun == runNumber)
@@ -110,11 +113,26 @@ void CommandPump::pumpStep()
     }
     lastCommand = framing::close(sendQueue.takeFirst());
     if (isWireless) {
+        dropStrayReports();
         armRead(WirelessReplyDelay);
         send(framing::wrapWireless(lastCommand));
     } else {
         send(framing::wrapWired(lastCommand));
         armRead(WiredReplyDelay);
+    }
+}
+
+// Over the air every answer goes to every program and thread that has the keyboard open, so the answer to a
+// search's question lies here as well. Taken for the answer to the next command, it would shift all later
+// ones.
+void CommandPump::dropStrayReports()
+{
+    if (armedReads > 0)
+        return;
+    std::array<quint8, framing::WirelessReportLength> report{};
+    for (int i = 0; i < MostStrayReports; ++i) {
+        if (hid_read_timeout(link->get(), report.data(), report.size(), 0) < 1)
+            return;
     }
 }
 

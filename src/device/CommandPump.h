@@ -58,12 +58,14 @@ private:
     void armRead(std::chrono::milliseconds delay);
     QByteArray takeReply();
     void send(const QByteArray &report);
+    void dropStrayReports();
 
     QList<QByteArray> sendQueue;
     QByteArray lastCommand;
     QTimer sendTimer;
     const HidHandle *link = nullptr;
     bool isWireless = false;
+    int armedReads = 0;
     quint64 linkNumber = 0; ///< tells a step which link it was armed for
     quint64 runNumber = 0;  ///< and whether the pump was restarted since
 };

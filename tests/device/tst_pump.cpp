@@ -2,6 +2,7 @@
 #include "ConnectedKeyboard.h"
 #include "HidHandle.h"
 
+#include <hidapi/hidapi.h>
 #include <QTest>
 
 using virtualhid::Fault;
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void immediateKickTakesTheFront();
     void wirelessNotice_data();
     void wirelessNotice();
+    void strayReportIsNoAnswer();
     void lostReplyLeavesTheQueue_data();
     void lostReplyLeavesTheQueue();
     void stepsOfAnOldLinkDoNothing();
@@ -141,6 +143,24 @@ void TestPump::wirelessNotice()
     QTEST(int(replies.size()), "replyCount");
     if (answerFollows)
         QCOMPARE(quint8(replies.at(0).first().toByteArray().at(0)), quint8(0x8F));
+}
+
+void TestPump::strayReportIsNoAnswer()
+{
+    const HidHandle handle = open("bluetooth", sim::Channel::Bluetooth);
+    const HidHandle search =
+        HidHandle::open(QByteArray::fromStdString(keyboard->path(sim::Channel::Bluetooth)));
+    QByteArray question = QByteArray::fromHex("06558F00000000000070");
+    question.resize(66, '\0');
+    QVERIFY(hid_write(search.get(), reinterpret_cast<const quint8 *>(question.constData()), 66) > 0);
+    QTest::qWait(50);
+
+    CommandPump pump;
+    QSignalSpy replies(&pump, &CommandPump::replied);
+    pump.setLink(&handle, true);
+    pump.enqueue(QByteArray::fromHex("86"), Kick::Immediate);
+    QVERIFY(replies.wait());
+    QCOMPARE(quint8(replies.first().first().toByteArray().at(0)), quint8(0x86));
 }
 
 void TestPump::lostReplyLeavesTheQueue_data()

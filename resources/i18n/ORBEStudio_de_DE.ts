@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Gerätename: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Tastatur-Firmware: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Empfänger-Firmware: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Aktuelle Version: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Tastatur-Firmware prüfen</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Empfänger-Firmware prüfen</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Anleitungen</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>Über Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Tasteneinstellungen</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Magnetschalter-Einstellungen</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makroeinstellungen</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Beleuchtungseinstellungen</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Onboard 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Onboard 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Onboard 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Onboard 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Koppeln</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Kalibrierung</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Lichteinstellungen</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Akkustand</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>Systemeinstellungen</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Programm beim Systemstart ausführen</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>Geräte werden gesucht</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Nach links blättern</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Nach rechts blättern</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Zurück</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Device name: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Keyboard firmware version: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Wireless receiver firmware version: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Current version: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Check for keyboard firmware update</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Check for wireless receiver firmware update</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Tutorials</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>About Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Key settings</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Magnetic switch settings</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Macro settings</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Lighting settings</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>User</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Onboard 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Onboard 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Onboard 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Onboard 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Pair</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Restore defaults</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Travel calibration</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Light settings</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Battery remaining</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>System settings</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Start this program at boot</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>Searching for devices</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Scroll right</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Back</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Nom de l’appareil : Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Version du micrologiciel du clavier : V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Version du micrologiciel du récepteur : V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Version actuelle : V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Vérifier le micrologiciel du clavier</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Vérifier le micrologiciel du récepteur</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Tutoriels</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>À propos d’Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Réglages des touches</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Réglages des switches magnétiques</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Réglages des macros</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Réglages d’éclairage</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Profil 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Profil 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Profil 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Profil 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Appairer</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Calibrer la course</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Réglages de lumière</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Batterie restante</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>Paramètres système</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Lancer ce programme au démarrage</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>Recherche d’appareils</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Défiler à gauche</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Défiler à droite</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Retour</translation>
     </message>
 </context>
 <context>

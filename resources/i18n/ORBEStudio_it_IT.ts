@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Nome dispositivo: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Versione firmware tastiera: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Versione firmware ricevitore: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Versione attuale: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Verifica firmware della tastiera</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Verifica firmware del ricevitore</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>Informazioni su Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Impostazioni tasti</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Impostazioni switch magnetici</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Impostazioni macro</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Impostazioni illuminazione</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>Utente</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Profilo 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Profilo 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Profilo 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Profilo 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Associa</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Calibrazione corsa</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Impostazioni luce</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Carica residua</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>Impostazioni di sistema</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Avvia questo programma all’accensione</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>Ricerca dispositivi</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Scorri a sinistra</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Scorri a destra</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Indietro</translation>
     </message>
 </context>
 <context>

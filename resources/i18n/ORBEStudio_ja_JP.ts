@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>デバイス名：Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>キーボードのファームウェア：V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>レシーバーのファームウェア：V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>現在のバージョン：V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>キーボードのファームウェア更新を確認</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>レシーバーのファームウェア更新を確認</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>チュートリアル</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>Orbe について</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>ホーム</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>キー設定</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>磁気スイッチ設定</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>マクロ設定</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>ライティング設定</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>オンボード 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>オンボード 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>オンボード 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>オンボード 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>ペアリング</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>初期設定に戻す</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>キャリブレーション</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>ライト設定</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>バッテリー残量</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>システム設定</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>起動時にこのプログラムを自動的に開始</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>デバイスを検索中</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>右へスクロール</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>戻る</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>장치 이름: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>키보드 펌웨어 버전: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>무선 수신기 펌웨어 버전: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>현재 버전: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>키보드 펌웨어 업데이트 확인</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>무선 수신기 펌웨어 업데이트 확인</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>사용 방법</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>Orbe 정보</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>홈</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>키 설정</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>자석축 설정</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>매크로 설정</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>조명 설정</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>사용자</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>온보드 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>온보드 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>온보드 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>온보드 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>페어링</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>기본값 복원</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>키 트래블 보정</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>라이트 설정</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>배터리 잔량</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>시스템 설정</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>부팅 시 이 프로그램 자동 실행</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>장치 검색 중</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>왼쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>오른쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>뒤로</translation>
     </message>
 </context>
 <context>

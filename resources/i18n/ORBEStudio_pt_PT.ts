@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Nome do dispositivo: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Versão do firmware do teclado: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Versão do firmware do recetor: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Versão atual: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Procurar atualização do firmware do teclado</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Procurar atualização do firmware do recetor</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Tutoriais</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>Acerca da Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Definições das teclas</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Definições dos switches magnéticos</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Definições de macro</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Definições de iluminação</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>Utilizador</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Memória 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Memória 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Memória 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Memória 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Emparelhar</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Repor predefinições</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Calibrar curso</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Definições de luz</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Bateria restante</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>Definições do sistema</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Iniciar este programa com o computador</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>A procurar dispositivos</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Deslocar para a esquerda</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Deslocar para a direita</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Voltar</translation>
     </message>
 </context>
 <context>

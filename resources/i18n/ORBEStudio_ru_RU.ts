@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Устройство: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Версия прошивки клавиатуры: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Версия прошивки приёмника: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Текущая версия: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Проверить обновление прошивки клавиатуры</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Проверить обновление прошивки приёмника</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Обучение</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>О компании Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Настройка клавиш</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Магнитные переключатели</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Макросы</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Настройка подсветки</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>Пользователь</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Профиль 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Профиль 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Профиль 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Профиль 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Сопряжение</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Калибровка хода</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Подсветка</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Заряд батареи</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>Системные настройки</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Запускать вместе с системой</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>Поиск устройств</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Прокрутить влево</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Прокрутить вправо</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Назад</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>Om</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Enhetsnamn: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Tangentbordets firmware: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Mottagarens firmware: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Aktuell version: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Sök firmware för tangentbordet</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Sök firmware för mottagaren</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Guider</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>Om Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Hem</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Tangentinställningar</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Inställningar för magnetbrytare</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makroinställningar</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Belysningsinställningar</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>Om</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>Användare</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Tillbaka</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Profil 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Profil 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Profil 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Profil 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Parkoppla</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Återställ</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Kalibrera</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Ljusinställningar</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Återstående batteri</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>Systeminställningar</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Stäng</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Starta programmet när datorn startar</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Avbryt</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>Söker efter enheter</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Bläddra åt vänster</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Bläddra åt höger</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Tillbaka</translation>
     </message>
 </context>
 <context>

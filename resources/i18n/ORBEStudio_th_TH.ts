@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>เกี่ยวกับ</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>ชื่ออุปกรณ์: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>เวอร์ชันเฟิร์มแวร์คีย์บอร์ด: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>เวอร์ชันเฟิร์มแวร์ตัวรับสัญญาณ: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>เวอร์ชันปัจจุบัน: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>ตรวจสอบอัปเดตเฟิร์มแวร์คีย์บอร์ด</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>ตรวจสอบอัปเดตเฟิร์มแวร์ตัวรับสัญญาณ</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>วิดีโอสอนใช้งาน</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>เกี่ยวกับ Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>หน้าแรก</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>ตั้งค่าปุ่ม</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>ตั้งค่าสวิตช์แม่เหล็ก</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>ตั้งค่ามาโคร</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>ตั้งค่าเอฟเฟกต์ไฟ</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>เกี่ยวกับ</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>ผู้ใช้</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>กลับ</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>ออนบอร์ด 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>ออนบอร์ด 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>ออนบอร์ด 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>ออนบอร์ด 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>จับคู่</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>คืนค่าเริ่มต้น</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>ปรับเทียบระยะกด</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>ตั้งค่าไฟ</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>แบตเตอรี่คงเหลือ</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>ตั้งค่าระบบ</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>ปิด</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>เปิดโปรแกรมนี้เมื่อเริ่มระบบ</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ตกลง</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>ยกเลิก</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>กำลังค้นหาอุปกรณ์</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>เลื่อนไปทางซ้าย</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>เลื่อนไปทางขวา</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>กลับ</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>Hakkında</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Aygıt adı: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Klavye yazılımı sürümü: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Alıcı yazılımı sürümü: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Geçerli sürüm: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Klavye yazılımı güncellemesini denetle</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Alıcı yazılımı güncellemesini denetle</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Eğitimler</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>Orbe hakkında</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Ana sayfa</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Tuş ayarları</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Manyetik switch ayarları</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makro ayarları</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Aydınlatma ayarları</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>Hakkında</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>Kullanıcı</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Dahili 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Dahili 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Dahili 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Dahili 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Eşleştir</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Varsayılana dön</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Kalibrasyon</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Işık ayarları</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Kalan pil</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>Sistem ayarları</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Bu programı bilgisayar açılırken başlat</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>İptal</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>Aygıtlar aranıyor</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Sola kaydır</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Sağa kaydır</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Geri</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>Giới thiệu</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>Tên thiết bị: Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>Phiên bản firmware bàn phím: V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>Phiên bản firmware đầu thu: V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>Phiên bản hiện tại: V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>Kiểm tra cập nhật firmware bàn phím</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>Kiểm tra cập nhật firmware đầu thu</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>Hướng dẫn</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>Về Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>Trang chủ</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>Cài đặt phím</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>Cài đặt switch từ</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Cài đặt macro</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>Cài đặt hiệu ứng đèn</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>Giới thiệu</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>Người dùng</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Quay lại</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>Bộ nhớ 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>Bộ nhớ 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>Bộ nhớ 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>Bộ nhớ 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>Ghép nối</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Khôi phục mặc định</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>Hiệu chuẩn hành trình</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>Cài đặt đèn</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>Pin còn lại</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>Cài đặt hệ thống</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Đóng</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>Tự khởi động chương trình cùng máy tính</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Hủy</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>Đang tìm thiết bị</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>Cuộn sang trái</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>Cuộn sang phải</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>Quay lại</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,139 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameAbout</name>
+    <message>
+        <source>关于</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>设备名称：Orbe 7090</source>
+        <translation>设备名称：Orbe 7090</translation>
+    </message>
+    <message>
+        <source>键盘固件版本：V1.0</source>
+        <translation>键盘固件版本：V1.0</translation>
+    </message>
+    <message>
+        <source>无线连接器固件版本：V1.0</source>
+        <translation>无线连接器固件版本：V1.0</translation>
+    </message>
+    <message>
+        <source>当前版本：V1.0</source>
+        <translation>当前版本：V1.0</translation>
+    </message>
+    <message>
+        <source>检查键盘固件更新</source>
+        <translation>检查键盘固件更新</translation>
+    </message>
+    <message>
+        <source>检查无线连接器固件更新</source>
+        <translation>检查无线连接器固件更新</translation>
+    </message>
+    <message>
+        <source>操作教学</source>
+        <translation>操作教学</translation>
+    </message>
+    <message>
+        <source>关于Orbe</source>
+        <translation>关于Orbe</translation>
+    </message>
+</context>
+<context>
+    <name>FrameDeviceHolder</name>
+    <message>
+        <source>首页</source>
+        <translation>首页</translation>
+    </message>
+    <message>
+        <source>键盘设置</source>
+        <translation>键盘设置</translation>
+    </message>
+    <message>
+        <source>磁轴设置</source>
+        <translation>磁轴设置</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>宏设置</translation>
+    </message>
+    <message>
+        <source>灯效设置</source>
+        <translation>灯效设置</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>用户</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>板载 1</source>
+        <translation>板载 1</translation>
+    </message>
+    <message>
+        <source>板载 2</source>
+        <translation>板载 2</translation>
+    </message>
+    <message>
+        <source>板载 3</source>
+        <translation>板载 3</translation>
+    </message>
+    <message>
+        <source>板载 4</source>
+        <translation>板载 4</translation>
+    </message>
+    <message>
+        <source>对码</source>
+        <translation>对码</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>恢复默认</translation>
+    </message>
+    <message>
+        <source>行程校准</source>
+        <translation>行程校准</translation>
+    </message>
+    <message>
+        <source>灯光设置</source>
+        <translation>灯光设置</translation>
+    </message>
+</context>
+<context>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
         <translation>剩余电量</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSystemInfo</name>
+    <message>
+        <source>系统设置</source>
+        <translation>系统设置</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>开机时自动开启本程序</source>
+        <translation>开机时自动开启本程序</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -119,6 +248,18 @@ B</translation>
     <message>
         <source>正在搜索设备</source>
         <translation>正在搜索设备</translation>
+    </message>
+    <message>
+        <source>向左滚动</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>向右滚动</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>返回</source>
+        <translation>返回</translation>
     </message>
 </context>
 <context>

@@ -16,6 +16,7 @@
 #include "ui_FrameDeviceHolder.h"
 
 #include <array>
+#include <QApplication>
 #include <QEvent>
 #include <utility>
 
@@ -176,6 +177,8 @@ void FrameDeviceHolder::showPage(SuperLabel *label, int index)
     if (!label || index < 0 || index >= pages.size())
         return;
     label->setSelected(true);
+    if (labels.contains(qobject_cast<SuperLabel *>(QApplication::focusWidget())))
+        label->setFocus(); // the focus doesn't stay behind on another place
     for (QWidget *page : std::as_const(pages))
         page->hide();
     pages.at(index)->show();

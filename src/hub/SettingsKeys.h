@@ -16,10 +16,11 @@ struct SettingsKey
 
     QVariant initialValue() const
     {
-        if constexpr (std::is_same_v<T, QLatin1String>)
+        if constexpr (std::is_same_v<T, QLatin1String>) {
             return QString(initial);
-        else
+        } else {
             return initial;
+        }
     }
 };
 

@@ -4,8 +4,9 @@
 
 #include <algorithm>
 #include <chrono>
-#include <QDir>
+#include <filesystem>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStackedWidget>
@@ -48,6 +49,18 @@ int centred(int length, int screen)
     return position < 0 || position > screen ? 0 : position;
 }
 
+/// An update of the WS driver brings its program under a name that its process would share with others.
+void renameUpdatedWs(const QString &updated, const QString &program)
+{
+    if (!QFile::exists(updated))
+        return;
+    std::error_code failure;
+    std::filesystem::rename(QFileInfo(updated).filesystemFilePath(), QFileInfo(program).filesystemFilePath(),
+                            failure);
+    if (failure)
+        qCWarning(lcHub) << "Can't rename" << updated << "for" << failure.value();
+}
+
 /// Runs something once, and never before its time.
 template <typename Work>
 void after(std::chrono::milliseconds time, QObject *context, Work work)
@@ -56,12 +69,6 @@ void after(std::chrono::milliseconds time, QObject *context, Work work)
 }
 
 } // namespace
-
-QString siblingRoot(const QString &applicationFolder)
-{
-    const bool beside = QDir(applicationFolder + QStringLiteral("/RyExe")).exists();
-    return beside ? applicationFolder : applicationFolder + QStringLiteral("/..");
-}
 
 SiblingHost::SiblingHost(SiblingOperations &operations, const Stage &hubStage, bool tarnwickBuild,
                          QObject *parent)
@@ -99,10 +106,7 @@ void SiblingHost::start(const QString &root)
     rootFolder = root;
     for (const char *process : StaleProcesses)
         platform.endProcess(QLatin1String(process));
-    // An update of the WS driver brings its program under its old name, which others share.
-    const QString updated = rootFolder + QStringLiteral("/WsExe/Orbe.exe");
-    if (QFile::exists(updated) && !QFile::rename(updated, programOf(WsFamily)))
-        qCWarning(lcHub) << "Can't rename" << updated;
+    renameUpdatedWs(rootFolder + QStringLiteral("/WsExe/Orbe.exe"), programOf(WsFamily));
     for (const int slot : StartOrder)
         platform.startProgram(programOf(slot));
     findTimer.start(FindPeriod);
@@ -272,10 +276,11 @@ void SiblingHost::showSiblingWindow()
     if (!window)
         return;
     Q_EMIT currentDeviceChanged(openedDevice);
-    if (siblings[size_t(family)].embedded)
+    if (siblings[size_t(family)].embedded) {
         showEmbedded(window);
-    else
+    } else {
         showInHubsPlace(window);
+    }
     Q_EMIT pointerInside();
     after(ReturnButtonDelay, this, [this] { showReturnButton(); });
 }

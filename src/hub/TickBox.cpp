@@ -46,9 +46,10 @@ void TickBox::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF box(RingMargin, (height() - BoxSize) / 2.0, BoxSize, BoxSize);
-    if (hasFocus())
+    if (hasFocus()) {
         look::drawFocusRing(painter, box.adjusted(-RingMargin, -RingMargin, RingMargin, RingMargin),
                             BoxRadius + RingMargin);
+    }
     painter.setPen(isChecked() ? QPen(Qt::NoPen) : QPen(underMouse() ? look::Accent : Border, 1.5));
     painter.setBrush(isChecked() ? (isEnabled() ? look::Accent : look::TextDisabled) : look::Window);
     const QRectF frame = isChecked() ? box : box.adjusted(0.75, 0.75, -0.75, -0.75);

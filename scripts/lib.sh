@@ -56,13 +56,15 @@ start_xvfb() {
     openbox_pid=$!
     xcompmgr >/dev/null 2>&1 &
     compositor_pid=$!
-    trap 'kill "$compositor_pid" "$openbox_pid" "$xvfb_pid" 2>/dev/null || true' EXIT
+    trap stop_xvfb EXIT
 }
+
+stop_xvfb() { kill "$compositor_pid" "$openbox_pid" "$xvfb_pid" 2>/dev/null || true; }
 
 # A machine that names no language gets English: the hub can't change languages where none of the system's is known.
 name_a_language() {
     case "${LC_ALL:-${LC_MESSAGES:-${LANG:-C}}}" in
-        C | C.* | POSIX) export LC_ALL=en_US.UTF-8 ;;
+        C | C.* | POSIX) export LANGUAGE="${LANGUAGE:-en_US}" ;;
     esac
 }
 

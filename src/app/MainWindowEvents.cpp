@@ -223,6 +223,13 @@ void MainWindow::showEvent(QShowEvent *event)
     trayHidden = false;
 }
 
+void MainWindow::moveEvent(QMoveEvent *event)
+{
+    QMainWindow::moveEvent(event);
+    if (floatReturn)
+        placeFloatButtons();
+}
+
 void MainWindow::hideEvent(QHideEvent *event)
 {
     QMainWindow::hideEvent(event);
@@ -269,7 +276,6 @@ void MainWindow::mouseMoveEvent(QMouseEvent *event)
     if (dragging && event->buttons().testFlag(Qt::LeftButton)) {
         const QPointF to = event->globalPosition() - dragOffset;
         move(rounded(to.x()), rounded(to.y()));
-        placeReturnButton();
     }
     QMainWindow::mouseMoveEvent(event);
 }

@@ -54,7 +54,7 @@ start_xvfb() {
     unset WAYLAND_DISPLAY
     openbox >/dev/null 2>&1 &
     openbox_pid=$!
-    xcompmgr >/dev/null 2>&1 &
+    picom --backend xrender >/dev/null 2>&1 &
     compositor_pid=$!
     trap stop_xvfb EXIT
 }

@@ -56,13 +56,25 @@ inline constexpr std::array CommandCatalogue{
 };
 // clang-format on
 
+/// Speed of an effect as users count it, from 0; the wire counts down from here.
+constexpr int FastestSpeed = 4;
+
 /// Command bytes that the code sends and reads by number.
 namespace command {
 constexpr quint8 SetReset = 0x01;
+constexpr quint8 SetReport = 0x03;
 constexpr quint8 SetProfile = 0x04;
 constexpr quint8 SetLedOnOff = 0x05;
+constexpr quint8 SetDebounce = 0x06;
 constexpr quint8 SetLedParam = 0x07;
 constexpr quint8 SetSideLedParam = 0x08;
+constexpr quint8 SetKbOption = 0x09;
+constexpr quint8 SetKeyMatrix = 0x0A;
+constexpr quint8 SetFn = 0x10;
+constexpr quint8 SetSleepTime = 0x11;
+constexpr quint8 KeyTest = 0x1B;
+constexpr quint8 Calibration = 0x1E;
+constexpr quint8 SetMagnetValue = 0x65;
 constexpr quint8 GetReport = 0x83;
 constexpr quint8 GetProfile = 0x84;
 constexpr quint8 GetDebounce = 0x86;

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <hidapi/hidapi.h>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -56,8 +57,7 @@ CommandPump::CommandPump(QObject *parent)
 void CommandPump::setLink(const HidHandle *handle, bool wireless)
 {
     ++linkNumber;
-    ++runNumber;
-    sendTimer.stop();
+    beginRun();
     link = handle;
     isWireless = wireless;
 }
@@ -76,7 +76,9 @@ void CommandPump::enqueue(const QByteArray &command, Kick kick)
         return;
     }
     sendQueue.append(command);
-    if (kick == Kick::Immediate)
+    if (groupDepth > 0)
+        groupQueued = true;
+    else if (kick == Kick::Immediate)
         pumpStep();
     else
         sendTimer.start(DeferredKickDelay);
@@ -85,21 +87,38 @@ void CommandPump::enqueue(const QByteArray &command, Kick kick)
 void CommandPump::restart()
 {
     sendQueue.clear();
+    beginRun();
+}
+
+void CommandPump::beginRun()
+{
     sendTimer.stop();
     ++runNumber;
+    armedSteps = 0;
+}
+
+void CommandPump::endGroup()
+{
+    if (groupDepth == 0 || --groupDepth > 0)
+        return;
+    if (std::exchange(groupQueued, false) && !isStepArmed())
+        pumpStep();
 }
 
 void CommandPump::armRead(std::chrono::milliseconds delay)
 {
     ++armedReads;
+    ++armedSteps;
     QTimer::singleShot(delay, Qt::PreciseTimer, this, [this, forLink = linkNumber, forRun = runNumber] {
         --armedReads;
         if (forLink != linkNumber)
             return;
-        if (forRun == runNumber)
+        if (forRun == runNumber) {
+            --armedSteps;
             readStep();
-        else
+        } else {
             takeReply();
+        }
     });
 }
 
@@ -161,9 +180,13 @@ void CommandPump::readStep()
         return;
     }
     const quint64 forRun = runNumber;
+    // Counted from here on, so that a group which a listener writes leaves the pace to the step below.
+    ++armedSteps;
     Q_EMIT replied(reply);
     QTimer::singleShot(NextCommandDelay, Qt::PreciseTimer, this, [this, forRun] {
-        if (forRun == runNumber)
-            pumpStep();
+        if (forRun != runNumber)
+            return;
+        --armedSteps;
+        pumpStep();
     });
 }

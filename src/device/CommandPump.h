@@ -38,6 +38,12 @@ public:
     /// link but not handed on, and nothing follows them. A sequence whose answers are filed by order needs
     /// this.
     void restart();
+
+    /// Between these two, which may be nested, what is queued isn't kicked. The outermost end kicks once, at
+    /// once, if anything was queued and no step is armed; the rest follows at the pump's pace.
+    void beginGroup() { ++groupDepth; }
+    void endGroup();
+
     qsizetype queueLength() const { return sendQueue.size(); }
 
     /// The last frame sent, with its checksum, before the transport's wrapping; empty before the first.
@@ -56,6 +62,8 @@ Q_SIGNALS:
 private:
     void pumpStep();
     void armRead(std::chrono::milliseconds delay);
+    bool isStepArmed() const { return sendTimer.isActive() || armedSteps > 0; }
+    void beginRun();
     QByteArray takeReply();
     void send(const QByteArray &report);
     void dropStrayReports();
@@ -65,7 +73,10 @@ private:
     QTimer sendTimer;
     const HidHandle *link = nullptr;
     bool isWireless = false;
-    int armedReads = 0;
+    int armedReads = 0; ///< of all runs: each of them will take one answer off the link
+    int armedSteps = 0; ///< of this run: reads, and pump steps after an answer
+    int groupDepth = 0;
+    bool groupQueued = false;
     quint64 linkNumber = 0; ///< tells a step which link it was armed for
     quint64 runNumber = 0;  ///< and whether the pump was restarted since
 };

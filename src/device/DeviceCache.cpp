@@ -162,29 +162,34 @@ KeyEntry DeviceCache::keyEntry(quint8 position, quint8 layer) const
 
 void DeviceCache::setKeyEntry(quint8 position, quint8 layer, const KeyEntry &entry)
 {
-    if (auto *matrix = matrixOf(*this, layer))
+    auto *matrix = matrixOf(*this, layer);
+    if (matrix && position < MatrixPositions)
         keys::setEntryAt(*matrix, position, entry);
+}
+
+bool DeviceCache::holdsMagnetism(quint8 table, quint8 position) const
+{
+    const int index = magnetTableIndex(table);
+    if (index < 0 || position >= MatrixPositions)
+        return false;
+    return (position + 1) * MagnetTables[size_t(index)].width <= magnetTables[size_t(index)].size();
 }
 
 quint32 DeviceCache::magnetism(quint8 table, quint8 position) const
 {
-    const int index = magnetTableIndex(table);
-    if (index < 0 || position >= MatrixPositions)
+    if (!holdsMagnetism(table, position))
         return 0;
-    const int width = MagnetTables[size_t(index)].width;
-    return numberAt(magnetTables[size_t(index)], qsizetype(position) * width, width);
+    const auto index = size_t(magnetTableIndex(table));
+    const int width = MagnetTables[index].width;
+    return numberAt(magnetTables[index], qsizetype(position) * width, width);
 }
 
 void DeviceCache::setMagnetism(quint8 table, quint8 position, quint32 value)
 {
-    const int index = magnetTableIndex(table);
-    if (index < 0 || position >= MatrixPositions)
+    if (!holdsMagnetism(table, position))
         return;
-    const int width = MagnetTables[size_t(index)].width;
-    QByteArray &cache = magnetTables[size_t(index)];
-    const qsizetype offset = qsizetype(position) * width;
-    if (offset + width > cache.size())
-        return;
+    const auto index = size_t(magnetTableIndex(table));
+    const int width = MagnetTables[index].width;
     for (int i = 0; i < width; ++i)
-        cache[offset + i] = char(value >> (8 * i));
+        magnetTables[index][position * width + i] = char(value >> (8 * i));
 }

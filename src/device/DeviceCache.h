@@ -49,9 +49,11 @@ public:
     /// The entry at a position of a key layer, or of an Fn matrix for a layer of 0xF0 plus n. Empty for what
     /// the cache doesn't hold.
     KeyEntry keyEntry(quint8 position, quint8 layer) const;
-    /// Writes such an entry; a place that the cache doesn't hold is left alone.
+    /// Writes such an entry; a place that the cache doesn't hold, or no key stands at, is left alone.
     void setKeyEntry(quint8 position, quint8 layer, const KeyEntry &entry);
 
+    /// Whether a magnetism table reaches to this position.
+    bool holdsMagnetism(quint8 table, quint8 position) const;
     /// One value of a magnetism table, little-endian at the table's width; 0 for what the cache doesn't hold.
     quint32 magnetism(quint8 table, quint8 position) const;
     /// Writes such a value, cut to the table's width; a place that the cache doesn't hold is left alone.

@@ -17,7 +17,6 @@
 namespace {
 
 constexpr quint8 ReadReplyBit = 0x80;
-constexpr quint8 SensorTable = 0xFE;
 constexpr quint8 LastPicturePage = 5;
 constexpr quint8 LastCalibrationPage = 3;
 constexpr qsizetype LoggedFrameLength = 8;
@@ -26,8 +25,6 @@ constexpr quint8 KeyTestReportId = 0x05;
 constexpr quint8 KeyTestMark = 0x1B;
 constexpr float FullTravel = 720.0f;
 constexpr size_t InputReportLength = 64;
-
-constexpr int FastestSpeed = 4; // the wire counts down from it
 
 quint8 byteAt(const QByteArray &data, qsizetype index)
 {
@@ -132,7 +129,7 @@ void DialogDeviceConnect::takeIdentity(const QByteArray &reply)
 void DialogDeviceConnect::takeMagnetPage(const QByteArray &reply)
 {
     const quint8 number = byteAt(pump.lastFrame(), 1);
-    if (!calibrating || number != SensorTable) {
+    if (!calibrating || number != magnettable::Sensor) {
         cache.appendMagnetPage(number, reply);
         return;
     }

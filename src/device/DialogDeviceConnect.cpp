@@ -5,6 +5,7 @@
 #include "ConsoleLog.h"
 #include "ConsoleTable.h"
 #include "DeviceLog.h"
+#include "Framing.h"
 #include "ReadSequence.h"
 #include "ui_DialogDeviceConnect.h"
 
@@ -20,11 +21,9 @@ namespace {
 
 constexpr auto InputPollPeriod = 20ms;
 constexpr auto HotplugQuiet = 800ms;
-constexpr auto ProfileReadDelay = 500ms;
 constexpr auto ReadDoneDelay = 50ms;
 
 constexpr int MaxCommandLength = 64;
-constexpr int ProfileCommandLength = 12;
 
 DialogDeviceConnect *theInstance = nullptr;
 
@@ -61,6 +60,18 @@ DialogDeviceConnect::~DialogDeviceConnect()
 DialogDeviceConnect *DialogDeviceConnect::instance()
 {
     return theInstance;
+}
+
+DialogDeviceConnect::WriteGroup::WriteGroup(DialogDeviceConnect &connection)
+    : pump(&connection.pump)
+{
+    pump->beginGroup();
+}
+
+DialogDeviceConnect::WriteGroup::~WriteGroup()
+{
+    if (pump)
+        pump->endGroup();
 }
 
 void DialogDeviceConnect::connectControls()
@@ -106,24 +117,12 @@ void DialogDeviceConnect::changeEvent(QEvent *event)
 
 void DialogDeviceConnect::DoSendCommand(quint8 command, int length, bool immediate)
 {
-    QByteArray bytes(std::clamp(length, 1, MaxCommandLength), '\0');
-    bytes[0] = char(command);
-    pump.enqueue(bytes, kick(immediate));
+    pump.enqueue(framing::bareCommand(std::clamp(length, 1, MaxCommandLength), {command}), kick(immediate));
 }
 
 void DialogDeviceConnect::DoSendHex(const QString &text, bool immediate)
 {
     pump.enqueue(QByteArray::fromHex(text.toLatin1()), kick(immediate));
-}
-
-void DialogDeviceConnect::DoSetProfile(quint8 layer)
-{
-    cache.currentProfile = layer;
-    QByteArray command(ProfileCommandLength, '\0');
-    command[0] = char(command::SetProfile);
-    command[1] = char(layer);
-    pump.enqueue(command, CommandPump::Kick::Immediate);
-    QTimer::singleShot(ProfileReadDelay, Qt::PreciseTimer, this, &DialogDeviceConnect::DoReadAll);
 }
 
 void DialogDeviceConnect::DoReadAll()

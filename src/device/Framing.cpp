@@ -28,6 +28,13 @@ QByteArray unwrap(std::span<const quint8> buffer, int result, int header)
 
 } // namespace
 
+QByteArray bareCommand(int length, std::initializer_list<quint8> head)
+{
+    QByteArray bytes(length, '\0');
+    std::copy_n(head.begin(), std::min(head.size(), size_t(length)), bytes.begin());
+    return bytes;
+}
+
 QByteArray close(const QByteArray &command)
 {
     QByteArray frame = command + QByteArray(ClosingPadding, '\0');

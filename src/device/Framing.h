@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <QByteArray>
 #include <QtGlobal>
 #include <span>
@@ -12,6 +13,12 @@ constexpr int WiredReportLength = 65;
 constexpr int WirelessReportLength = 66;
 /// Zero bytes that closing appends, so that every byte which a frame can hold exists.
 constexpr int ClosingPadding = 128;
+/// Where the data of a long command begins, behind its arguments and the checksum.
+constexpr int PayloadOffset = 8;
+
+/// A bare command of \a length bytes that begins with \a head and is 0 behind it. A head longer than the
+/// command is cut.
+QByteArray bareCommand(int length, std::initializer_list<quint8> head);
 
 /// Extends a bare command with zeros and writes its checksum: the one's complement of the sum of the bytes
 /// before it, at offset 8 for the two lighting parameter commands and at offset 7 for all others. A byte of

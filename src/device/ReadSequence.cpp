@@ -1,10 +1,11 @@
 #include "ReadSequence.h"
 
 #include "CommandCatalogue.h"
+#include "Framing.h"
+#include "MagnetFrames.h"
 #include "MagnetTables.h"
 
 #include <array>
-#include <initializer_list>
 
 namespace {
 
@@ -14,24 +15,12 @@ constexpr quint8 Layers = 4;
 constexpr quint8 KeyPagesPerLayer = 8;
 constexpr quint8 FnPages = 10;
 
-QByteArray eightBytes(std::initializer_list<quint8> bytes)
+QByteArray eightBytes(std::initializer_list<quint8> head)
 {
-    QByteArray frame(8, '\0');
-    std::copy(bytes.begin(), bytes.end(), frame.begin());
-    return frame;
+    return framing::bareCommand(8, head);
 }
 
 } // namespace
-
-QByteArray readMagnetPage(quint8 table, quint8 page)
-{
-    QByteArray frame(4, '\0');
-    frame[0] = char(command::ReadMagnetTable);
-    frame[1] = char(table);
-    frame[2] = 1;
-    frame[3] = char(page);
-    return frame;
-}
 
 QList<QByteArray> readSequence(quint8 profile, bool withMagnetism)
 {
@@ -47,7 +36,7 @@ QList<QByteArray> readSequence(quint8 profile, bool withMagnetism)
     if (withMagnetism) {
         for (const MagnetTable &table : MagnetTables) {
             for (quint8 page = 0; page < table.pages; ++page)
-                frames.append(readMagnetPage(table.number, page));
+                frames.append(magnetframes::readPage(table.number, page));
         }
     }
     return frames;

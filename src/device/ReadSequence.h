@@ -6,6 +6,3 @@
 /// The commands that pull the whole state of a keyboard, in the order that the firmware expects: 47 of them,
 /// and 52 more if the firmware has magnetism tables.
 QList<QByteArray> readSequence(quint8 profile, bool withMagnetism);
-
-/// The command that reads one 64-byte page of a magnetism table.
-QByteArray readMagnetPage(quint8 table, quint8 page);

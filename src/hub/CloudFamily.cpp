@@ -1,5 +1,6 @@
 // The cloud driver family with the native keyboards: on the cable, behind a receiver and over Bluetooth.
 
+#include "CommandCatalogue.h"
 #include "EnumSettings.h"
 #include "Framing.h"
 #include "ScanPass.h"
@@ -23,9 +24,6 @@ constexpr quint16 ScreenVendor = 0x3151;
 constexpr quint16 ScreenProduct = 0x504A;
 constexpr QLatin1String ScreenVendorPath("HitScreen");
 
-constexpr char GetIdentity = '\x8F';
-constexpr unsigned char IdentityReply = 0x8F;
-constexpr unsigned char OtherIdentityReply = 0x88;
 constexpr int MostBluetoothRounds = 5;
 constexpr auto BluetoothAnswerTime = 200ms;
 constexpr auto PauseBeforeRetry = 100ms;
@@ -34,13 +32,13 @@ constexpr std::size_t IdAt = 3;
 
 quint32 askOverBluetooth(hid_device *device, const ScanStop &stop)
 {
-    const QByteArray request = framing::wrapWireless(framing::close(QByteArray(1, GetIdentity)));
+    const QByteArray request = framing::wrapWireless(framing::close(QByteArray(1, char(command::GetInfo))));
     std::array<unsigned char, framing::WirelessReportLength> reply{};
     for (int round = 0; round < MostBluetoothRounds; ++round) {
         hid_write(device, reinterpret_cast<const unsigned char *>(request.constData()),
                   std::size_t(request.size()));
         hid_read_timeout(device, reply.data(), reply.size(), int(BluetoothAnswerTime.count()));
-        if (reply[CommandAt] == IdentityReply || reply[CommandAt] == OtherIdentityReply)
+        if (reply[CommandAt] == command::GetInfo || reply[CommandAt] == command::GetSideLedParam)
             break;
         if (!stop.pause(PauseBeforeRetry))
             return 0;
@@ -115,6 +113,8 @@ void scanCloudFamily(ScanPass &pass)
 {
     CloudScan scan(pass);
     for (const quint16 vendor : enumsettings::cloudVendors()) {
+        if (pass.stop.asked())
+            return;
         for (const HidEntry &entry : listHid(vendor)) {
             if (pass.stop.asked())
                 return;

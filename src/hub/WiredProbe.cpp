@@ -1,5 +1,6 @@
 #include "WiredProbe.h"
 
+#include "CommandCatalogue.h"
 #include "DeviceEnumInfo.h"
 #include "Framing.h"
 
@@ -11,7 +12,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr quint8 GetIdentity = 0x8F;
 constexpr quint8 SetReceiverMode = 0xF6;
 constexpr quint8 GetReceiverState = 0xF7;
 constexpr quint8 FetchForwarded = 0xFC;
@@ -58,8 +58,8 @@ ProbedIdentity WiredProbe::run()
 bool WiredProbe::askDevice(quint32 &id)
 {
     int answers = 0;
-    while (exchange(GetIdentity, DeviceAnswerTime)) {
-        if (reply[CommandAt] == GetIdentity) {
+    while (exchange(command::GetInfo, DeviceAnswerTime)) {
+        if (reply[CommandAt] == command::GetInfo) {
             id = idInReply();
             if (id != 0 || ++answers == MostIdentityAnswers)
                 return true;
@@ -76,7 +76,7 @@ ProbedIdentity WiredProbe::askThroughReceiver()
 {
     const bool asked = exchange(SetReceiverMode, ReceiverAnswerTime, ForwardingMode) &&
                        pollReceiver([this] { return reply[OnlineAt] == 1; }) &&
-                       exchange(GetIdentity, ReceiverAnswerTime) &&
+                       exchange(command::GetInfo, ReceiverAnswerTime) &&
                        pollReceiver([this] { return reply[CommandAt] == 0; }) &&
                        exchange(FetchForwarded, ReceiverAnswerTime);
     if (!asked || received <= 0)

@@ -48,8 +48,6 @@ private Q_SLOTS:
     void init() { config = std::make_unique<ConfigFolder>(); }
     void cleanup() { config.reset(); }
 
-    void everyModelIsShipped_data();
-    void everyModelIsShipped();
     void brandsHaveTheSameDevices();
     void catalogueFiles_data();
     void catalogueFiles();
@@ -63,40 +61,6 @@ private Q_SLOTS:
 private:
     std::unique_ptr<ConfigFolder> config;
 };
-
-void TestCatalogue::everyModelIsShipped_data()
-{
-    QTest::addColumn<int>("model");
-    for (std::size_t i = 0; i < sim::Models.size(); ++i) {
-        const bool lonely = sim::Models[i].kind == sim::Kind::Receiver && sim::Models[i].paired.empty();
-        if (!lonely) // a receiver without a keyboard has no card
-            QTest::newRow(sim::Models[i].name.data()) << int(i);
-    }
-}
-
-void TestCatalogue::everyModelIsShipped()
-{
-    QFETCH(int, model);
-    const sim::Model &row = sim::Models[std::size_t(model)];
-    const sim::Model *asked = row.kind == sim::Kind::Receiver ? sim::findModel(row.paired) : &row;
-    QVERIFY(asked);
-
-    QString name;
-    quint16 type = 0xFFFF;
-    quint16 connection = 0xFFFF;
-    const bool cloud = asked->kind == sim::Kind::Keyboard || asked->kind == sim::Kind::Identity;
-    if (cloud)
-        name = OrbeDeviceBase::lookupName(asked->deviceId, type, OrbeDeviceBase::FirstBrand);
-    else
-        OrbeDeviceBase::lookupCustom(asked->vendorId, asked->productId, asked->deviceId, name, type,
-                                     connection);
-    const bool mouse = row.name == "cloud-mouse";
-    const bool screen = row.name == "hitscreen";
-    QVERIFY(!name.isEmpty());
-    QCOMPARE(int(type), int(mouse ? MouseType : screen ? HitBoxType : KeyboardType));
-    QCOMPARE(name.contains(QLatin1String("7090")), row.deviceId == 0x0709);
-    QVERIFY(cloud || connection == UsbConnection);
-}
 
 void TestCatalogue::brandsHaveTheSameDevices()
 {

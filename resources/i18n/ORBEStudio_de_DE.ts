@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>Bildschirmtastatur</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Ausgewählte Taste</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Geänderte Taste</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Deaktivierte Taste</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Taste aktivieren</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Taste deaktivieren</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>On-screen keyboard</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Selected key</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Modified key</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Disabled key</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Enable key</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Clear setting</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Disable key</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

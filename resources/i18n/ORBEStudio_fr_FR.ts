@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>Clavier visuel</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Touche sélectionnée</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Touche modifiée</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Touche désactivée</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Réactiver la touche</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Désactiver la touche</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>Tastiera su schermo</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Tasto selezionato</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Tasto modificato</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Tasto disattivato</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Riattiva tasto</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Disattiva tasto</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>スクリーンキーボード</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>選択中のキー</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>変更済みのキー</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>無効なキー</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>無効化を解除</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>設定をクリア</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>キーを無効化</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

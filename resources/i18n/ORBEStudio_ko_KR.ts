@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>화상 키보드</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>선택한 키</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>변경한 키</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>비활성 키</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>비활성화 해제</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>설정 지우기</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>키 비활성화</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>Teclado no ecrã</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Tecla selecionada</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Tecla modificada</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Tecla desativada</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Ativar tecla</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Desativar tecla</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>Экранная клавиатура</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Выбранная клавиша</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Изменённая клавиша</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Отключённая клавиша</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Включить клавишу</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Отключить клавишу</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>Skärmtangentbord</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Vald tangent</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Ändrad tangent</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Inaktiverad tangent</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Aktivera tangent</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Rensa</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Inaktivera tangent</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>แป้นพิมพ์บนหน้าจอ</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>ปุ่มที่เลือก</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>ปุ่มที่แก้ไขแล้ว</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>ปุ่มที่ปิดใช้งาน</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>เปิดใช้งานปุ่ม</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>ล้างการตั้งค่า</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>ปิดใช้งานปุ่ม</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

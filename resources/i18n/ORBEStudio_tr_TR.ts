@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>Ekran klavyesi</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Seçili tuş</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Değiştirilmiş tuş</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Devre dışı tuş</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Tuşu etkinleştir</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Ayarı temizle</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Tuşu devre dışı bırak</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

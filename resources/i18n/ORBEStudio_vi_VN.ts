@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>Bàn phím ảo</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>Phím đã chọn</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>Phím đã sửa</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>Phím đã tắt</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>Bật lại phím</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Xóa cài đặt</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>Tắt phím</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

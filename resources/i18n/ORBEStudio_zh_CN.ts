@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>屏幕键盘</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>已选中按键</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>已修改按键</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>已禁用按键</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>取消禁用</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>清除设置</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>禁用按键</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

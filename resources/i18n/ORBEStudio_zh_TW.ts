@@ -725,6 +725,37 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleKeyboard</name>
+    <message>
+        <source>屏幕键盘</source>
+        <translation>螢幕鍵盤</translation>
+    </message>
+    <message>
+        <source>已选中按键</source>
+        <translation>已選取按鍵</translation>
+    </message>
+    <message>
+        <source>已修改按键</source>
+        <translation>已修改按鍵</translation>
+    </message>
+    <message>
+        <source>已禁用按键</source>
+        <translation>已停用按鍵</translation>
+    </message>
+    <message>
+        <source>取消禁用</source>
+        <translation>取消停用</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>清除設定</translation>
+    </message>
+    <message>
+        <source>禁用按键</source>
+        <translation>停用按鍵</translation>
+    </message>
+</context>
+<context>
     <name>ModuleLangMenu</name>
     <message>
         <source>中文简体</source>

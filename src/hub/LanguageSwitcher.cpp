@@ -11,6 +11,11 @@
 
 namespace {
 
+/// The buttons of message boxes, for languages that Qt comes without; where Qt has its own text, that one
+/// shows.
+[[maybe_unused]] constexpr std::array QtTexts{QT_TRANSLATE_NOOP("QPlatformTheme", "&Yes"),
+                                              QT_TRANSLATE_NOOP("QPlatformTheme", "&No")};
+
 const Language *languageAt(int index)
 {
     return index >= 0 && size_t(index) < Languages.size() ? &Languages[size_t(index)] : nullptr;

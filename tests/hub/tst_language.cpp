@@ -120,6 +120,7 @@ void TestLanguage::everyLanguageCanBeChosen()
     QTEST(value("LANGUAGE").toInt(), "windowsLanguage");
     QTEST(translator.translate("ModuleGenKeymapping", "静音"), "mute");
     QVERIFY(!settings->contains(QStringLiteral("ByLocale")));
+    QVERIFY2(!translator.translate("QPlatformTheme", "&Yes").isEmpty(), "message boxes are translated, too");
 }
 
 void TestLanguage::everyClickCounts()

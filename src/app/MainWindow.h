@@ -96,6 +96,7 @@ private:
     void paintSplash(QPainter &painter);
 
     std::unique_ptr<Ui::MainWindow> ui;
+    bool tarnwickBuild = false; ///< nothing sets it: the program runs as the first brand
     InstalledTranslators translators;
     QSettings &settings;
     LanguageSwitcher languages;
@@ -118,7 +119,6 @@ private:
     QTimer logoPressTimer;
     QPointF dragOffset;
     int logoPresses = 0;
-    bool tarnwickBuild = false; ///< nothing sets it: the program runs as the first brand
     bool secondInstance = false;
     bool cardsWereEmpty = true;
     bool dragging = false;

@@ -5,9 +5,14 @@
 #include "DialogDeviceConnect.h"
 #include "ui_DialogDeviceConnect.h"
 
+#include <chrono>
 #include <hidapi/hidapi.h>
+#include <mutex>
+#include <QMutex>
 #include <QSettings>
 #include <QSignalBlocker>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -20,6 +25,15 @@ struct EnumerationDeleter
     void operator()(hid_device_info *first) const { hid_free_enumeration(first); }
 };
 using Enumeration = std::unique_ptr<hid_device_info, EnumerationDeleter>;
+
+constexpr auto LongestEnumerationWait = 500ms;
+
+/// The devices of those ids; empty as well if a search holds the list of devices for too long.
+Enumeration enumerate(quint16 vid, quint16 pid)
+{
+    const std::unique_lock lock(hidLibraryMutex(), LongestEnumerationWait);
+    return Enumeration(lock ? hid_enumerate(vid, pid) : nullptr);
+}
 
 /// A USB id from its hex text; 0, which no device has and hidapi would take for any, if it is none.
 quint16 usbId(const QString &text)
@@ -101,7 +115,7 @@ void DialogDeviceConnect::connectWired(const QString &vidText, const QString &pi
 void DialogDeviceConnect::openInterfaces(quint16 vid, quint16 pid)
 {
     const QPixmap good(QStringLiteral(":/images/General_OK4.png"));
-    const Enumeration found(hid_enumerate(vid, pid));
+    const Enumeration found = enumerate(vid, pid);
     for (const hid_device_info *entry = found.get(); entry; entry = entry->next) {
         if (inputHandle && commandHandle && musicHandle)
             break;
@@ -145,7 +159,7 @@ void DialogDeviceConnect::refreshStep()
 {
     QStringList found;
     if (const quint16 vid = usbId(ui->lineEditVID->text())) {
-        const Enumeration devices(hid_enumerate(vid, 0));
+        const Enumeration devices = enumerate(vid, 0);
         for (const hid_device_info *entry = devices.get(); entry; entry = entry->next) {
             if (entry->usage_page == NativeUsagePage && entry->usage == InputUsage)
                 found.append(idText(entry->product_id));

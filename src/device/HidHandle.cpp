@@ -2,24 +2,29 @@
 
 #include "DeviceLog.h"
 
+#include <chrono>
 #include <hidapi/hidapi.h>
+#include <mutex>
 #include <QMutex>
 #include <QSet>
 #include <QString>
 
+using namespace std::chrono_literals;
+
 namespace {
+
+constexpr auto LongestWait = 500ms;
 
 /// Remembers which paths were already reported, so that a scan every few seconds doesn't fill the log.
 class OpenFailures
 {
 public:
-    void report(const QByteArray &path)
+    void report(const QByteArray &path, const QString &cause)
     {
         const QMutexLocker lock(&mutex);
         if (reported.contains(path))
             return;
         reported.insert(path);
-        const QString cause = QString::fromWCharArray(hid_error(nullptr));
         qCWarning(lcDevice).noquote() << "Can't open" << path << "-" << cause << remedy(cause);
     }
 
@@ -48,19 +53,31 @@ private:
 
 OpenFailures &openFailures()
 {
-    static OpenFailures failures;
+    // Never destroyed: a search that a HID call holds may come back while the process ends.
+    static auto &failures = *new OpenFailures;
     return failures;
 }
 
 } // namespace
 
+QMutex &hidLibraryMutex()
+{
+    static auto &mutex = *new QMutex;
+    return mutex;
+}
+
 HidHandle HidHandle::open(const QByteArray &path)
 {
+    std::unique_lock lock(hidLibraryMutex(), LongestWait);
+    if (!lock) {
+        openFailures().report(path, QStringLiteral("another device holds the system's answer"));
+        return {};
+    }
     HidHandle handle(hid_open_path(path.constData()));
     if (handle)
         openFailures().forget(path);
     else
-        openFailures().report(path);
+        openFailures().report(path, QString::fromWCharArray(hid_error(nullptr)));
     return handle;
 }
 

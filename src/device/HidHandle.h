@@ -3,8 +3,15 @@
 #include <memory>
 #include <QByteArray>
 
+class QMutex;
+
 struct hid_device_;
 using hid_device = hid_device_;
+
+/// hidapi keeps one error text for the whole process and frees it in every open and every enumeration: two
+/// threads in one of these calls at once free it twice. HidHandle::open() holds this lock; whoever enumerates
+/// holds it as well.
+QMutex &hidLibraryMutex();
 
 /// One open HID device, closed with the object. An object without a device is valid: all it does is answer
 /// "no". Use one object from one thread at a time.
@@ -13,8 +20,9 @@ class HidHandle
 public:
     HidHandle() = default;
 
-    /// Opens a path that hid_enumerate gave. If that fails the result is empty, and the log names the cause,
-    /// once for each path until it can be opened again. Any thread.
+    /// Opens a path that hid_enumerate gave; waits at most half a second for another thread's open or
+    /// enumeration. If that fails the result is empty, and the log names the cause, once for each path until
+    /// it can be opened again. Any thread.
     static HidHandle open(const QByteArray &path);
 
     explicit operator bool() const { return device != nullptr; }

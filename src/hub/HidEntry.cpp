@@ -1,10 +1,14 @@
 #include "HidEntry.h"
 
+#include "HidHandle.h"
+
 #include <hidapi/hidapi.h>
 #include <memory>
+#include <QMutex>
 
 std::vector<HidEntry> listHid(quint16 vendorId, quint16 productId)
 {
+    const QMutexLocker lock(&hidLibraryMutex());
     const std::unique_ptr<hid_device_info, decltype(&hid_free_enumeration)> list(
         hid_enumerate(vendorId, productId), &hid_free_enumeration);
     std::vector<HidEntry> entries;

@@ -1,0 +1,297 @@
+#include "ConnectedKeyboard.h"
+#include "CustomTooltip.h"
+#include "KeyboardButton.h"
+#include "KeyMatrix.h"
+#include "keySetTooltip.h"
+#include "MagnetTables.h"
+#include "ModuleKeyboard.h"
+
+#include <memory>
+#include <QEnterEvent>
+#include <QTest>
+
+namespace {
+
+constexpr quint8 KeyA = 4;
+constexpr quint8 KeyQ = 20;
+constexpr quint8 CapsLock = 57;
+const QString Disabled = QStringLiteral("DISABLED");
+const QString Title = QStringLiteral("Q");
+const QString Body = QStringLiteral("组合: L-Ctrl + A");
+
+/// A right click as the window system delivers it: a disabled key gets it too.
+void rightClick(QWidget *widget, const QPoint &position)
+{
+    QTest::mouseClick(widget, Qt::RightButton, {}, position);
+}
+
+void rightClickKey(ModuleKeyboard &keyboard, quint8 code)
+{
+    KeyboardButton *button = keyboard.keyButton(code);
+    rightClick(button, button->rect().center());
+}
+
+CustomTooltip *popupOf(const ModuleKeyboard &keyboard)
+{
+    return keyboard.findChild<CustomTooltip *>();
+}
+
+keySetTooltip *hover(KeyboardButton *button)
+{
+    QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
+    QCoreApplication::sendEvent(button, &enter);
+    return button->findChild<keySetTooltip *>();
+}
+
+} // namespace
+
+/// What the user does to keys on the on-screen keyboard, and what all keyboards then show.
+class TestKeyboardActions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyKeyboardShowsIt_data();
+    void everyKeyboardShowsIt();
+    void theBubbleTellsTheFunction();
+    void popupOffersWhatFits_data();
+    void popupOffersWhatFits();
+    void changesReachTheKeyboard_data();
+    void changesReachTheKeyboard();
+    void partnersAreTakenAsCodes_data();
+    void partnersAreTakenAsCodes();
+    void withoutAKeyboardTheScreenStillChanges();
+    void nothingIsLeftOfAKeyboardThatGoes();
+};
+
+void TestKeyboardActions::everyKeyboardShowsIt_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<bool>("recurse");
+    QTest::addColumn<bool>("here");
+    QTest::addColumn<bool>("there");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("function") << Title << Body << true << true << true << true;
+    QTest::newRow("only here") << Title << Body << false << true << false << true;
+    QTest::newRow("no title") << QString() << Body << true << false << false << true;
+    QTest::newRow("no body") << Title << QString() << true << false << false << true;
+    QTest::newRow("disabled") << Disabled << Body << true << false << false << false;
+}
+
+void TestKeyboardActions::everyKeyboardShowsIt()
+{
+    QFETCH(QString, title);
+    QFETCH(QString, body);
+    QFETCH(bool, recurse);
+    QFETCH(bool, enabled);
+    ModuleKeyboard keyboard;
+    ModuleKeyboard other;
+    ModuleKeyboard apart;
+    apart.enterSelectMode();
+    for (int refresh = 0; refresh < 2; ++refresh) {
+        keyboard.setKeyTooltip(KeyQ, title, body, recurse);
+        QTEST(keyboard.keyButton(KeyQ)->hasBinding(), "here");
+        QTEST(other.keyButton(KeyQ)->hasBinding(), "there");
+        QCOMPARE(keyboard.keyButton(KeyQ)->isEnabled(), enabled);
+        QCOMPARE(other.keyButton(KeyQ)->isEnabled(), enabled);
+        QVERIFY(!apart.keyButton(KeyQ)->hasBinding() && apart.keyButton(KeyQ)->isEnabled());
+        apart.setKeyTooltip(KeyQ, enabled ? Disabled : Title, Body, true);
+        QVERIFY(apart.keyButton(KeyQ)->isEnabled());
+        QCOMPARE(other.keyButton(KeyQ)->isEnabled(), enabled);
+    }
+    keyboard.setKeyTooltip(KeyQ, {}, {}, true);
+    QVERIFY(other.keyButton(KeyQ)->isEnabled() && !other.keyButton(KeyQ)->hasBinding());
+}
+
+void TestKeyboardActions::theBubbleTellsTheFunction()
+{
+    ModuleKeyboard keyboard;
+    keyboard.move(200, 300);
+    keyboard.show();
+    KeyboardButton *key = keyboard.keyButton(KeyQ);
+    QVERIFY(!hover(key));
+    keyboard.setKeyTooltip(KeyQ, Title, Body, true);
+    keySetTooltip *bubble = hover(key);
+    QVERIFY(bubble && bubble->isVisible());
+    QCOMPARE(bubble->title(), Title);
+    QCOMPARE(bubble->body(), Body);
+    QCOMPARE(bubble->geometry().bottom() + 1, key->mapToGlobal(QPoint()).y());
+    keyboard.setKeyTooltip(KeyQ, Title, QStringLiteral("1\n2\n3"), true);
+    QCOMPARE(bubble->body(), QStringLiteral("1\n2\n3"));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(key, &leave);
+    QVERIFY(!bubble->isVisible());
+    hover(key);
+    keyboard.hide();
+    QVERIFY(!bubble->isVisible());
+    keyboard.setKeyTooltip(KeyQ, {}, {}, true);
+    QVERIFY(!hover(key));
+}
+
+void TestKeyboardActions::popupOffersWhatFits_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("withValues");
+    QTest::addColumn<QPoint>("position"); // on the keyboard; null for the key
+    QTest::addColumn<QString>("offer");   // empty for none
+    QTest::newRow("plain key") << QString() << false << QPoint() << QStringLiteral("禁用按键");
+    QTest::newRow("modified key") << Title << false << QPoint() << QStringLiteral("清除设置");
+    QTest::newRow("disabled key") << Disabled << false << QPoint() << QStringLiteral("取消禁用");
+    QTest::newRow("between the keys") << QString() << false << QPoint(500, 66) << QString();
+    QTest::newRow("outside") << QString() << false << QPoint(950, 390) << QString();
+    QTest::newRow("values are shown") << QString() << true << QPoint() << QString();
+}
+
+void TestKeyboardActions::popupOffersWhatFits()
+{
+    QFETCH(QString, title);
+    QFETCH(bool, withValues);
+    QFETCH(QPoint, position);
+    QFETCH(QString, offer);
+    ModuleKeyboard keyboard;
+    keyboard.resize(960, 400);
+    keyboard.show();
+    keyboard.setKeyTooltip(KeyQ, title, Body, false);
+    if (withValues)
+        keyboard.enterValueMode(3);
+    if (position.isNull()) {
+        rightClickKey(keyboard, KeyQ);
+    } else {
+        rightClick(&keyboard, position);
+    }
+    const CustomTooltip *popup = popupOf(keyboard);
+    QCOMPARE(popup->isVisible(), !offer.isEmpty());
+    QCOMPARE(popup->text(), offer);
+    if (!offer.isEmpty())
+        QCOMPARE(popup->x(), keyboard.keyButton(KeyQ)->mapToGlobal(QPoint(48 + 5, 0)).x());
+}
+
+void TestKeyboardActions::changesReachTheKeyboard_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("emptied");
+    QTest::newRow("disable") << QString() << false << true;
+    QTest::newRow("clear") << Title << true << false;
+    QTest::newRow("enable again") << Disabled << true << false;
+}
+
+void TestKeyboardActions::changesReachTheKeyboard()
+{
+    QFETCH(QString, title);
+    QFETCH(bool, enabled);
+    QFETCH(bool, emptied);
+    ConnectedKeyboard wired("wired-500");
+    QVERIFY(wired.readAll());
+    wired.settle();
+    const quint8 position = keys::PositionOfCode(KeyQ);
+    wired.connection.SetMagnetism(magnettable::Mode, position, KeyMode::ModTap | KeyMode::Flag);
+    ModuleKeyboard keyboard;
+    ModuleKeyboard other;
+    keyboard.show();
+    keyboard.setKeyTooltip(KeyQ, title, Body, true);
+    wired.settle();
+    wired.keyboard->clearLog();
+    QSignalSpy changed(&keyboard, &ModuleKeyboard::onKeyChanged);
+    QSignalSpy changedThere(&other, &ModuleKeyboard::onKeyChanged);
+
+    rightClickKey(keyboard, KeyQ);
+    QTest::mouseClick(popupOf(keyboard), Qt::LeftButton);
+    QVERIFY(!popupOf(keyboard)->isVisible());
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed[0][0].value<uchar>(), KeyQ);
+    QCOMPARE(changed[0][1].value<uchar>(), uchar(KeyMode::ModTap | KeyMode::Flag));
+    QCOMPARE(changed[0][2].toBool(), enabled);
+    for (const ModuleKeyboard *board : {&keyboard, &other}) {
+        QCOMPARE(board->keyButton(KeyQ)->isEnabled(), enabled);
+        QVERIFY(!board->keyButton(KeyQ)->hasBinding());
+    }
+    KeyEntry entry;
+    wired.connection.GetKeyEntry(entry, position, 0);
+    QCOMPARE(entry, emptied ? KeyEntry{} : keys::DefaultEntryAt(position));
+    QCOMPARE(wired.connection.GetKeyMode(KeyQ), quint8(KeyMode::Plain));
+    // The ten writes of a key's defaults and the one of its own function; none for the second keyboard.
+    wired.settle();
+    QCOMPARE(wired.commands(), QByteArray("0A 0A 0A 0A 65 65 65 65 65 65 0A"));
+    QCOMPARE(changedThere.size(), 0);
+}
+
+void TestKeyboardActions::partnersAreTakenAsCodes_data()
+{
+    QTest::addColumn<quint32>("partner");
+    QTest::addColumn<int>("frames");
+    QTest::newRow("a code that a key has") << quint32(KeyA) << 12;
+    QTest::newRow("no key has it, so all keys would be meant") << quint32(3) << 11;
+    QTest::newRow("all keys") << quint32(0xFF) << 11;
+}
+
+void TestKeyboardActions::partnersAreTakenAsCodes()
+{
+    QFETCH(quint32, partner);
+    QFETCH(int, frames);
+    ConnectedKeyboard wired("wired-500");
+    QVERIFY(wired.readAll());
+    wired.settle();
+    const quint8 position = keys::PositionOfCode(CapsLock);
+    wired.connection.SetMagnetism(magnettable::Mode, position, KeyMode::SnapKey);
+    wired.connection.SetMagnetism(magnettable::Partner, position, partner);
+    wired.connection.SetMagnetism(magnettable::Mode, keys::PositionOfCode(KeyA), KeyMode::SnapKey);
+    ModuleKeyboard keyboard;
+    for (const quint8 code : {CapsLock, KeyA})
+        keyboard.setKeyTooltip(code, Title, Body, true);
+    wired.keyboard->clearLog();
+    keyboard.setKeyEnabledState(keyboard.keyButton(CapsLock), false, true);
+    const bool cleared = partner == KeyA;
+    QCOMPARE(keyboard.keyButton(KeyA)->hasBinding(), !cleared);
+    QCOMPARE(wired.connection.GetKeyMode(KeyA), quint8(cleared ? KeyMode::Plain : KeyMode::SnapKey));
+    wired.settle();
+    QCOMPARE(int(wired.keyboard->frameCount()), frames);
+}
+
+void TestKeyboardActions::withoutAKeyboardTheScreenStillChanges()
+{
+    QVERIFY(!DialogDeviceConnect::instance());
+    ModuleKeyboard keyboard;
+    ModuleKeyboard other;
+    QSignalSpy changed(&keyboard, &ModuleKeyboard::onKeyChanged);
+    keyboard.setKeyEnabledState(keyboard.keyButton(KeyQ), false, true);
+    QVERIFY(!other.keyButton(KeyQ)->isEnabled());
+    QCOMPARE(changed.size(), 1);
+    other.setKeyEnabledState(other.keyButton(KeyQ), true, false);
+    QVERIFY(keyboard.keyButton(KeyQ)->isEnabled());
+    QCOMPARE(changed.size(), 1);
+    {
+        const DialogDeviceConnect empty; // connected to nothing: its caches are empty or short
+        keyboard.setKeyEnabledState(keyboard.keyButton(KeyQ), false, true);
+        QVERIFY(!other.keyButton(KeyQ)->isEnabled());
+    }
+}
+
+void TestKeyboardActions::nothingIsLeftOfAKeyboardThatGoes()
+{
+    ModuleKeyboard staying;
+    auto going = std::make_unique<ModuleKeyboard>();
+    going->show();
+    going->lockKeyboard();
+    going->updateLegend();
+    going->setKeyTooltip(KeyQ, Title, Body, true);
+    const QPointer<keySetTooltip> bubble(hover(going->keyButton(KeyQ)));
+    rightClickKey(*going, KeyQ);
+    const QPointer<CustomTooltip> popup(popupOf(*going));
+    QVERIFY(bubble->isVisible() && popup->isVisible());
+    going.reset();
+    QVERIFY(!bubble && !popup);
+    QTest::qWait(30); // the timers of the keyboard that went would run now
+    staying.setKeyTooltip(KeyQ, Disabled, {}, true);
+    QVERIFY(!staying.keyButton(KeyQ)->isEnabled());
+
+    // A page may put its keyboard away in answer to the very click.
+    QPointer<ModuleKeyboard> leaving(new ModuleKeyboard);
+    connect(leaving, &ModuleKeyboard::onKeyClicked, &staying, [&leaving] { delete leaving; });
+    leaving->keyButton(KeyQ)->click();
+    QVERIFY(!leaving);
+}
+
+QTEST_MAIN(TestKeyboardActions)
+#include "tst_keyboardactions.moc"

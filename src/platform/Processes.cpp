@@ -61,9 +61,10 @@ bool Processes::start(const QString &path)
     const std::optional<qint64> process = processlist::start(path);
     if (!process)
         return false;
-    if (*process)
+    if (*process) {
         running.insert(plainName(QFileInfo(path).fileName()), *process);
-    else
+    } else {
         trusted = QDeadlineTimer();
+    }
     return true;
 }

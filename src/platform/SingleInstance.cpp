@@ -60,12 +60,13 @@ bool SingleInstance::acquire()
     // one's segment is ready before the second one looks for it.
     lock->enter();
     const bool first = lock->claim();
-    if (!first)
+    if (!first) {
         leaveSummons();
-    else if (makeSegment())
+    } else if (makeSegment()) {
         watchTimer.start(WatchPeriod);
-    else
+    } else {
         qCWarning(lcPlatform) << "A second start can't call this one:" << segment.errorString();
+    }
     lock->leave();
     return first;
 }

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <QCoreApplication>
+#include <utility>
 #include <vector>
 
 using namespace std::chrono_literals;
@@ -15,6 +16,7 @@ namespace {
 constexpr auto LongestTrust = 2s;
 /// A window manager puts a program's window into frames of its own, one or two deep.
 constexpr int DeepestLevel = 3;
+constexpr auto SettlingTime = 500ms;
 constexpr quint32 LongestTitle = 256; // in units of four bytes
 
 xcb_get_property_cookie_t askProperty(xcb_window_t window, xcb_atom_t property)
@@ -71,6 +73,14 @@ struct Inquiry
     xcb_get_property_cookie_t oldTitle;
 };
 
+bool isShown(xcb_window_t window)
+{
+    const auto cookie = xcb_get_window_attributes(x11::connection(), window);
+    const x11::Reply<xcb_get_window_attributes_reply_t> attributes(
+        xcb_get_window_attributes_reply(x11::connection(), cookie, nullptr));
+    return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
 } // namespace
 
 xcb_window_t ForeignWindows::find(const QString &title)
@@ -79,7 +89,9 @@ xcb_window_t ForeignWindows::find(const QString &title)
         listen();
     if (outdated || trusted.hasExpired())
         readList();
-    return windows.value(title.toLower());
+    const Entry entry = windows.value(title.toLower());
+    const bool settled = entry.window && (entry.settling.hasExpired() || isShown(entry.window));
+    return settled ? entry.window : xcb_window_t(XCB_WINDOW_NONE);
 }
 
 bool ForeignWindows::nativeEventFilter(const QByteArray &, void *message, qintptr *)
@@ -114,7 +126,7 @@ void ForeignWindows::listen()
 
 void ForeignWindows::readList()
 {
-    windows.clear();
+    const QHash<QString, Entry> before = std::exchange(windows, {});
     std::vector<xcb_window_t> level;
     Inquiry(x11::rootWindow()).takeChildren(level);
     for (int depth = 1; depth <= DeepestLevel && !level.empty(); ++depth) {
@@ -123,9 +135,13 @@ void ForeignWindows::readList()
         // The topmost window comes last and a framed one after its frame: the last of a title counts.
         for (const Inquiry &inquiry : inquiries) {
             inquiry.takeChildren(level);
-            const QString title = inquiry.takeTitle();
-            if (!title.isEmpty())
-                windows.insert(title.toLower(), inquiry.window);
+            const QString title = inquiry.takeTitle().toLower();
+            if (title.isEmpty())
+                continue;
+            const Entry known = before.value(title);
+            windows.insert(title, known.window == inquiry.window
+                                      ? known
+                                      : Entry{inquiry.window, QDeadlineTimer(SettlingTime)});
         }
     }
     outdated = false;

@@ -63,9 +63,10 @@ InstanceLock::InstanceLock(const QString &key)
 {
     const QByteArray path = QFile::encodeName(lockFile(key));
     d->file = ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (d->file < 0)
+    if (d->file < 0) {
         qCWarning(lcPlatform) << "Can't open" << path
                               << "- other instances aren't seen:" << qt_error_string();
+    }
 }
 
 InstanceLock::~InstanceLock()

@@ -117,9 +117,10 @@ private:
             return;
         const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
         for (int i = 0; i < count * mapping->keysyms_per_keycode; ++i) {
-            if (symbols[i])
+            if (symbols[i]) {
                 codes.insert(symbols[i],
                              xcb_keycode_t(setup->min_keycode + i / mapping->keysyms_per_keycode));
+            }
         }
     }
 

@@ -149,9 +149,10 @@ void SystemSiblings::move(Window window, const QRect &rect)
 void SystemSiblings::setForeground(Window window)
 {
     constexpr quint32 FromPager = 2;
-    if (desktop->offers("activate"))
+    if (desktop->offers("activate")) {
         x11::tellWindowManager(id(window), x11::atom("_NET_ACTIVE_WINDOW"),
                                {FromPager, XCB_CURRENT_TIME, 0, 0, 0});
+    }
 }
 
 void SystemSiblings::redraw(Window window, unsigned)

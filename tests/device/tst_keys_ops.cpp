@@ -39,6 +39,7 @@ private Q_SLOTS:
     void resetWritesTenFrames();
     void groupIsPaced_data();
     void groupIsPaced();
+    void groupOfAListenerIsPaced();
     void emptyGroupDoesNotKick();
     void nothingIsWrittenWhileReading();
     void entries_data();
@@ -209,6 +210,19 @@ void TestKeyOperations::groupIsPaced()
     QCOMPARE(shared->frame(shared->keyboard->frameCount() - 1, 11),
              QByteArray("0A 01 00 00 00 01 03 F0 00 02 03"));
     QVERIFY(!shared->keyboard->state().keys.groupOpen());
+}
+
+void TestKeyOperations::groupOfAListenerIsPaced()
+{
+    QObject listener;
+    connect(connection, &Connection::onReadBack, &listener, [this, &listener] {
+        disconnect(connection, &Connection::onReadBack, &listener, nullptr);
+        connection->DoResetKey(Esc);
+    });
+    connection->DoSetFn(A, VolumeUp);
+    shared->settle();
+    QCOMPARE(shared->keyboard->frameCount(), size_t(11));
+    QVERIFY(gapsAreKept());
 }
 
 void TestKeyOperations::emptyGroupDoesNotKick()

@@ -2,8 +2,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-
 /// The program as a whole: how many of it run, and how it ends.
 class TestProgram : public QObject
 {
@@ -70,7 +68,7 @@ void TestProgram::killedProgramLeavesNoTrace()
         const auto program = start({QStringLiteral("--plug"), QStringLiteral("by")});
         QVERIFY2(waitForLog(*program, "No program to start"), qPrintable(QString::number(round)));
         QCOMPARE(program->state(), QProcess::Running);
-        ::kill(pid_t(program->processId()), SIGKILL);
+        program->kill();
         QVERIFY(program->waitForFinished());
     }
 }

@@ -125,7 +125,9 @@ void KeyboardButton::leaveEvent(QEvent *event)
 
 void KeyboardButton::focusInEvent(QFocusEvent *event)
 {
-    showBubble();
+    // Not when a window only comes to the front again with the focus where it was.
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        showBubble();
     QPushButton::focusInEvent(event);
 }
 

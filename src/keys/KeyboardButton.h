@@ -28,8 +28,6 @@ public:
 
     /// Whether the key has a function of the user's to tell of.
     bool hasBinding() const { return !bindingTitle.isEmpty(); }
-    QString title() const { return bindingTitle; }
-    QString body() const { return bindingBody; }
 
     /// Marks the key as modified and gives its bubble these texts; with one of them empty the key is plain
     /// again and has no bubble. Takes away a coloured border and the mark of a hit.
@@ -37,7 +35,6 @@ public:
 
     /// A mode that isn't a DisplayMode shows the plain key.
     void setDisplayMode(quint8 mode);
-    quint8 displayMode() const { return mode; }
 
     /// Paints the whole key in a colour, whatever else it would show; an invalid colour ends that.
     void setFillColor(const QColor &color);
@@ -45,7 +42,6 @@ public:
 
     /// Text and border of the key; red and blue are exchanged when they are painted.
     void setBorderColor(const QColor &color);
-    QColor borderColor() const { return border; }
 
     /// Values in millimetres; they show in the mode that they belong to.
     void setHalfValues(float upper, float lower);

@@ -62,7 +62,22 @@ private Q_SLOTS:
     void partnersAreTakenAsCodes();
     void withoutAKeyboardTheScreenStillChanges();
     void nothingIsLeftOfAKeyboardThatGoes();
+
+private:
+    bool connected();
+
+    std::unique_ptr<ConnectedKeyboard> device; // read once for all tests that need it
 };
+
+bool TestKeyboardActions::connected()
+{
+    if (device)
+        return true;
+    device = std::make_unique<ConnectedKeyboard>("wired-500");
+    const bool read = device->readAll();
+    device->settle();
+    return read;
+}
 
 void TestKeyboardActions::everyKeyboardShowsIt_data()
 {
@@ -182,9 +197,8 @@ void TestKeyboardActions::changesReachTheKeyboard()
     QFETCH(QString, title);
     QFETCH(bool, enabled);
     QFETCH(bool, emptied);
-    ConnectedKeyboard wired("wired-500");
-    QVERIFY(wired.readAll());
-    wired.settle();
+    QVERIFY(connected());
+    ConnectedKeyboard &wired = *device;
     const quint8 position = keys::PositionOfCode(KeyQ);
     wired.connection.SetMagnetism(magnettable::Mode, position, KeyMode::ModTap | KeyMode::Flag);
     ModuleKeyboard keyboard;
@@ -230,9 +244,8 @@ void TestKeyboardActions::partnersAreTakenAsCodes()
 {
     QFETCH(quint32, partner);
     QFETCH(int, frames);
-    ConnectedKeyboard wired("wired-500");
-    QVERIFY(wired.readAll());
-    wired.settle();
+    QVERIFY(connected());
+    ConnectedKeyboard &wired = *device;
     const quint8 position = keys::PositionOfCode(CapsLock);
     wired.connection.SetMagnetism(magnettable::Mode, position, KeyMode::SnapKey);
     wired.connection.SetMagnetism(magnettable::Partner, position, partner);
@@ -251,6 +264,7 @@ void TestKeyboardActions::partnersAreTakenAsCodes()
 
 void TestKeyboardActions::withoutAKeyboardTheScreenStillChanges()
 {
+    device.reset();
     QVERIFY(!DialogDeviceConnect::instance());
     ModuleKeyboard keyboard;
     ModuleKeyboard other;

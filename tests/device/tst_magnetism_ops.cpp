@@ -26,6 +26,8 @@ private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase() { shared.reset(); }
     void init();
+    /// A calibration that a failed test leaves on would keep the pump from ever resting.
+    void cleanup() { connection->DoStopCalibration(); }
 
     void writes_data();
     void writes();

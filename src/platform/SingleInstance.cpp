@@ -3,8 +3,8 @@
 #include "InstanceLock.h"
 #include "PlatformLog.h"
 
+#include <algorithm>
 #include <chrono>
-#include <cstring>
 
 using namespace std::chrono_literals;
 
@@ -21,8 +21,8 @@ void write(QSharedMemory &segment, QByteArrayView text)
 {
     if (segment.size() < text.size() || !segment.lock())
         return;
-    std::memset(segment.data(), 0, size_t(segment.size()));
-    std::memcpy(segment.data(), text.data(), size_t(text.size()));
+    auto *content = static_cast<char *>(segment.data());
+    std::fill_n(std::copy(text.begin(), text.end(), content), segment.size() - text.size(), '\0');
     segment.unlock();
 }
 

@@ -12,17 +12,23 @@ constexpr const char *HandOverKeys[] = {"DeviceId",        "DevicePath",   "Vend
                                         "OrbeDeviceIndex", "JmDevicePath", "ByLocale",         "JmLocale",
                                         "LanguageCode",    "LANGUAGE"};
 
-bool isRegistryKey(const QString &place)
+/// The place of the shared values, as QSettings takes it; it gives registry keys with a backslash before
+/// them.
+QString placeOf(const QSettings &orders)
 {
-    return place.startsWith(QLatin1String("HKEY_"));
+    const QString place = orders.value(QStringLiteral("settings")).toString();
+    return place.startsWith(QLatin1String("\\HKEY_")) ? place.mid(1) : place;
+}
+
+QSettings::Format formatOf(const QString &place)
+{
+    return place.startsWith(QLatin1String("HKEY_")) ? QSettings::NativeFormat : QSettings::IniFormat;
 }
 
 } // namespace
 
 StandInWindow::StandInWindow(const QSettings &orders)
-    : values(orders.value(QStringLiteral("settings")).toString(),
-             isRegistryKey(orders.value(QStringLiteral("settings")).toString()) ? QSettings::NativeFormat
-                                                                                : QSettings::IniFormat)
+    : values(placeOf(orders), formatOf(placeOf(orders)))
     , reportFile(orders.value(QStringLiteral("report")).toString())
     , deviceLabel(new QLabel(this))
     , returnAfter(orders.value(QStringLiteral("returnAfter")).toInt())

@@ -1,5 +1,6 @@
 #include "Desktop.h"
 
+#include <QByteArray>
 #include <windows.h>
 
 namespace {

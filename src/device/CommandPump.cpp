@@ -5,6 +5,7 @@
 #include "HidHandle.h"
 
 #include <array>
+#include <functional>
 #include <hidapi/hidapi.h>
 #include <utility>
 
@@ -20,6 +21,7 @@ constexpr auto WirelessReadLimit = 400ms;
 constexpr size_t ReplyBufferLength = 1024;
 constexpr int MostStrayReports = 128;
 
+using Clock = std::chrono::steady_clock;
 using ReplyBuffer = std::array<quint8, ReplyBufferLength>;
 
 /// Null if there is no reply.
@@ -42,6 +44,19 @@ QByteArray takeWirelessReply(hid_device *device)
     if (framing::isWirelessNotice(buffer))
         result = read();
     return framing::unwrapWireless(buffer, result);
+}
+
+// A precise timer may fire most of a millisecond early where the system's clock is coarse; no gap may be
+// shorter than promised, so what is missing is waited for in turns of the event loop.
+void waitUntil(Clock::time_point due, QObject *context, const std::function<void()> &action)
+{
+    const auto rest = std::chrono::duration_cast<std::chrono::milliseconds>(due - Clock::now());
+    QTimer::singleShot(std::max(rest, 0ms), Qt::PreciseTimer, context, [due, context, action] {
+        if (Clock::now() < due)
+            waitUntil(due, context, action);
+        else
+            action();
+    });
 }
 
 } // namespace
@@ -109,7 +124,7 @@ void CommandPump::armRead(std::chrono::milliseconds delay)
 {
     ++armedReads;
     ++armedSteps;
-    QTimer::singleShot(delay, Qt::PreciseTimer, this, [this, forLink = linkNumber, forRun = runNumber] {
+    waitUntil(Clock::now() + delay, this, [this, forLink = linkNumber, forRun = runNumber] {
         --armedReads;
         if (forLink != linkNumber)
             return;
@@ -183,7 +198,7 @@ void CommandPump::readStep()
     // Counted from here on, so that a group which a listener writes leaves the pace to the step below.
     ++armedSteps;
     Q_EMIT replied(reply);
-    QTimer::singleShot(NextCommandDelay, Qt::PreciseTimer, this, [this, forRun] {
+    waitUntil(Clock::now() + NextCommandDelay, this, [this, forRun] {
         if (forRun != runNumber)
             return;
         --armedSteps;

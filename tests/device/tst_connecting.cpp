@@ -84,7 +84,11 @@ void TestConnecting::failedOpens_data()
     QTest::addColumn<int>("connects");
     QTest::addColumn<int>("disconnects");
     QTest::addColumn<QString>("cause");
+#ifdef Q_OS_LINUX
     const QString permission = QStringLiteral("70-orbehub.rules");
+#else
+    const QString permission = QStringLiteral("Can't open");
+#endif
     QTest::newRow("wired, no permission") << QByteArray("wired-500") << true << 0 << 1 << permission;
     QTest::newRow("wireless, no permission") << QByteArray("bluetooth") << true << 1 << 0 << permission;
     QTest::newRow("wired, broken node")

@@ -61,6 +61,7 @@ void EmbeddedWindows::take(xcb_window_t window, xcb_window_t parent)
     if (!reparent(window, parent))
         return;
     parents.insert(window, parent);
+    anyTaken = true;
     roundsLeft = InsistRounds;
     insistTimer.start(InsistPeriod);
 }

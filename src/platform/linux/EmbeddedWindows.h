@@ -15,10 +15,14 @@ public:
     void take(xcb_window_t window, xcb_window_t parent);
     bool contains(xcb_window_t window) const { return parents.contains(window); }
 
+    /// Whether any window was taken since the program began.
+    static bool wasAnyTaken() { return anyTaken; }
+
 private:
     void insist();
 
     QHash<xcb_window_t, xcb_window_t> parents; ///< by window
     QTimer insistTimer;
     int roundsLeft = 0;
+    static inline bool anyTaken = false;
 };

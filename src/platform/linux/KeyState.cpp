@@ -1,5 +1,6 @@
 #include "KeyState.h"
 
+#include "EmbeddedWindows.h"
 #include "X11.h"
 
 #include <array>
@@ -134,12 +135,13 @@ bool isKeyDown(Key key)
 {
     if (!QCoreApplication::instance())
         return false;
-    if (x11::connection()) {
-        static ServerKeys keys;
-        return keys.contains(namesOf(key));
+    static const auto *ownKeys = new HeldKeys; // belongs to the application object
+    // The question to the server costs a wait of its own, 30 times a second: only for who needs it.
+    if (x11::connection() && EmbeddedWindows::wasAnyTaken()) {
+        static ServerKeys serverKeys;
+        return serverKeys.contains(namesOf(key));
     }
-    static const auto *keys = new HeldKeys; // belongs to the application object
-    return keys->contains(namesOf(key).qt);
+    return ownKeys->contains(namesOf(key).qt);
 }
 
 } // namespace platform

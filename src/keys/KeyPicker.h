@@ -1,0 +1,56 @@
+#pragma once
+
+#include "KeyEntry.h"
+
+#include <array>
+#include <QDialog>
+
+class PickerButton;
+class PickerSlot;
+class QButtonGroup;
+
+/// What the pickers of key functions have in common: a modal dialog that covers its parent, or the primary
+/// screen, and picks a combination of up to three keys. GUI thread only.
+///
+/// A picker is made for one exec() and read after it returned QDialog::Accepted. It may stand on the stack:
+/// a parent that is hidden or destroyed meanwhile ends it as rejected, and is never left with it as a child.
+/// The caller has to see for itself whether it outlived exec().
+class KeyPicker : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// What was picked. A combination is 00 k1 k2 k3 with 0 for a place not used, all 0 for nothing at all.
+    const KeyEntry &entry() const { return picked; }
+
+protected:
+    static constexpr size_t SlotCount = 3; ///< slot i shows byte i + 1 of the entry
+
+    /// Lays the dialog over its parent; what stands in it is up to the picker.
+    explicit KeyPicker(QWidget *parent);
+
+    /// Takes over the labels that show what was picked, in the order of the entry's bytes.
+    void setSlots(const std::array<PickerSlot *, SlotCount> &labels);
+    /// Fills two empty widgets with keys of that width in pixels. The group gets them with their usages as
+    /// ids.
+    void addKeys(QWidget *basicBlock, QWidget *extendedBlock, QButtonGroup *group, int keyWidth);
+
+    /// Forgets what was picked, and shows that.
+    virtual void clearPicked();
+    /// Takes a key into the first place that is free; does nothing if none is.
+    virtual void pickKey(const PickerButton *key);
+    /// Empties one place; those after it stay where they are.
+    virtual void clearSlot(size_t slot);
+
+    PickerSlot *slotLabel(size_t slot) const { return slotLabels.at(slot); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+    KeyEntry picked;
+
+private:
+    void coverParent();
+
+    std::array<PickerSlot *, SlotCount> slotLabels{};
+};

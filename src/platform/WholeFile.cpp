@@ -121,6 +121,8 @@ std::optional<QByteArray> WholeFile::read()
 
 bool WholeFile::write(const QByteArray &content)
 {
+    if (!mustSetAside && holds(content))
+        return true;
     if (mustSetAside && !keepAside())
         return false;
     mustSetAside = false;
@@ -128,6 +130,13 @@ bool WholeFile::write(const QByteArray &content)
     source.setData(content);
     source.open(QIODevice::ReadOnly);
     return replaceContent(filePath, source);
+}
+
+bool WholeFile::holds(const QByteArray &content) const
+{
+    QFile file(filePath);
+    return QFileInfo(file).isFile() && file.size() == content.size() && file.open(QIODevice::ReadOnly) &&
+           file.readAll() == content;
 }
 
 /// A copy and not another name for the file: until the new content is there, the old one stays in place.

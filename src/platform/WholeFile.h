@@ -26,13 +26,15 @@ public:
     /// the file, as its name with ".broken1" or the next free number.
     void setAside() { mustSetAside = true; }
 
-    /// Replaces the content. On false the old content is still there: the disk is full, the folder is
-    /// read-only, what had to be set aside could not be, or another program held the file for 250 ms.
+    /// Replaces the content, unless the file holds it already. On false the old content is still there: the
+    /// disk is full, the folder is read-only, what had to be set aside could not be, or another program held
+    /// the file for 250 ms.
     bool write(const QByteArray &content);
 
     const QString &path() const { return filePath; }
 
 private:
+    bool holds(const QByteArray &content) const;
     bool keepAside() const;
 
     QString filePath;

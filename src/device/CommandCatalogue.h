@@ -59,6 +59,9 @@ inline constexpr std::array CommandCatalogue{
 /// Speed of an effect as users count it, from 0; the wire counts down from here.
 constexpr int FastestSpeed = 4;
 
+/// The effect that shows a user picture; its option is the picture's slot.
+constexpr int PictureEffect = 13;
+
 /// Command bytes that the code sends and reads by number.
 namespace command {
 constexpr quint8 SetReset = 0x01;
@@ -70,6 +73,8 @@ constexpr quint8 SetLedParam = 0x07;
 constexpr quint8 SetSideLedParam = 0x08;
 constexpr quint8 SetKbOption = 0x09;
 constexpr quint8 SetKeyMatrix = 0x0A;
+constexpr quint8 SetMacro = 0x0B;
+constexpr quint8 SetUserPicture = 0x0C;
 constexpr quint8 SetFn = 0x10;
 constexpr quint8 SetSleepTime = 0x11;
 constexpr quint8 KeyTest = 0x1B;

@@ -123,8 +123,19 @@ void DeviceCache::appendMagnetPage(quint8 table, const QByteArray &page)
         appendPage(magnetTables[size_t(index)], page);
 }
 
-void DeviceCache::appendPicturePage(const QByteArray &page)
+void DeviceCache::beginPicture()
 {
+    userPicture.clear();
+    pictureLacksPages = false;
+    nextPicturePage = 0;
+}
+
+void DeviceCache::appendPicturePage(quint8 number, const QByteArray &page)
+{
+    if (number == 0)
+        beginPicture();
+    pictureLacksPages |= number != nextPicturePage;
+    nextPicturePage = quint8(number + 1);
     appendPage(userPicture, page);
 }
 

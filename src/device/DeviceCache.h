@@ -36,8 +36,13 @@ public:
     void appendKeyPage(quint8 layer, const QByteArray &page);
     void appendFnPage(quint8 slot, const QByteArray &page);
     void appendMagnetPage(quint8 table, const QByteArray &page);
-    void appendPicturePage(const QByteArray &page);
     void appendCalibrationPage(const QByteArray &page);
+
+    /// Forgets the user picture that was read last.
+    void beginPicture();
+    /// Appends a page of a user picture, as long as it came. Page 0 begins a picture, so that two reads that
+    /// overlap don't end up in one.
+    void appendPicturePage(quint8 number, const QByteArray &page);
 
     /// Store a lighting parameter reply under the effect it names; an effect out of range changes nothing.
     void storeLedParams(const QByteArray &reply);
@@ -70,6 +75,8 @@ public:
     QByteArray kbOptions;
     QByteArray deviceInfo;
     QByteArray userPicture;
+    bool pictureLacksPages = false; ///< a page of it was asked for and didn't come
+    quint8 nextPicturePage = 0;
 
     std::array<quint16, 4> sleepTimes{}; ///< seconds
     quint8 reportRate = 0;               ///< code

@@ -6,6 +6,7 @@
 #include "DeviceLog.h"
 #include "DialogDeviceConnect.h"
 #include "KeyMatrix.h"
+#include "PictureFrames.h"
 #include "ui_DialogDeviceConnect.h"
 
 #include <algorithm>
@@ -17,7 +18,6 @@
 namespace {
 
 constexpr quint8 ReadReplyBit = 0x80;
-constexpr quint8 LastPicturePage = 5;
 constexpr quint8 LastCalibrationPage = 3;
 constexpr qsizetype LoggedFrameLength = 8;
 
@@ -87,8 +87,8 @@ void DialogDeviceConnect::dispatch(const QByteArray &reply)
         cache.appendKeyPage(byteAt(frame, 4), reply);
         break;
     case command::GetUserPicture:
-        cache.appendPicturePage(reply);
-        if (byteAt(frame, 3) == LastPicturePage)
+        cache.appendPicturePage(byteAt(frame, 3), reply);
+        if (byteAt(frame, 3) == pictureframes::ReadPages - 1)
             Q_EMIT onGetPictrue(cache.userPicture);
         break;
     case command::GetInfo:

@@ -15,7 +15,6 @@ namespace {
 
 constexpr auto ProfileReadDelay = 500ms;
 
-constexpr int PictureEffect = 13;
 constexpr int MusicEffect = 22;
 constexpr int OptionStep = 16;
 constexpr int OptionLowNibble = 7;

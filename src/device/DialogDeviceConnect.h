@@ -84,6 +84,11 @@ public:
     /// layers without a function. No names before the key's mode is known.
     void GetKeyDisplay(QStringList &out, quint8 keyCode) const;
 
+    /// Sends a macro to a slot of the keyboard, 0 to 49, and lets a key play it: \a repeat times, in playback mode
+    /// 0 (by count), 1 or 2. \a stream is what PackMacro made; of more than 14,278 bytes not all goes out.
+    /// During a read the pages are queued, and the key keeps its function.
+    void DoSetMacro(quint8 keyCode, quint16 repeat, quint8 mode, quint8 macroId, const QByteArray &stream);
+
     // Magnetic switches: per-key tables, numbered as in MagnetTables.h. While the keyboard is read these
     // writes do nothing.
 
@@ -151,6 +156,13 @@ public:
     /// blue, checksum, 0. Shorter blocks count as filled with 0, an empty one is ignored. Works during a
     /// read as well.
     void DoSetSideLed(const QByteArray &block);
+    /// Writes a picture, three bytes for each position, into a slot and shows it. Slots are 0 to 4. Bytes of
+    /// the map past the 392 that are sent don't count, and missing ones are black. Does nothing while the
+    /// keyboard is read.
+    void DoWriteUserPic(quint8 slot, const QByteArray &colourMap);
+    /// Reads the picture of a slot; onGetPictrue brings it, as it came. Does nothing while the keyboard is
+    /// read.
+    void DoReadUserPic(quint8 slot);
     /// Whether the music report runs.
     bool isMusicOn() const { return musicOn; }
 

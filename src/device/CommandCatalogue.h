@@ -73,6 +73,7 @@ constexpr quint8 SetLedParam = 0x07;
 constexpr quint8 SetSideLedParam = 0x08;
 constexpr quint8 SetKbOption = 0x09;
 constexpr quint8 SetKeyMatrix = 0x0A;
+constexpr quint8 SetMacro = 0x0B;
 constexpr quint8 SetUserPicture = 0x0C;
 constexpr quint8 SetFn = 0x10;
 constexpr quint8 SetSleepTime = 0x11;

@@ -84,6 +84,11 @@ public:
     /// layers without a function. No names before the key's mode is known.
     void GetKeyDisplay(QStringList &out, quint8 keyCode) const;
 
+    /// Sends a macro to a slot of the keyboard, 0 to 49, and lets a key play it: \a repeat times, in playback
+    /// mode 0 (by count), 1 or 2. \a stream is what PackMacro made; of more than 14,278 bytes not all goes
+    /// out. During a read the pages are queued, and the key keeps its function.
+    void DoSetMacro(quint8 keyCode, quint16 repeat, quint8 mode, quint8 macroId, const QByteArray &stream);
+
     // Magnetic switches: per-key tables, numbered as in MagnetTables.h. While the keyboard is read these
     // writes do nothing.
 

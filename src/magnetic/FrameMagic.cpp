@@ -1,7 +1,108 @@
 #include "FrameMagic.h"
 
+#include "DialogDeviceConnect.h"
+#include "FocusRing.h"
+#include "Look.h"
+#include "MagneticLog.h"
+#include "MagneticStyle.h"
+#include "ui_FrameMagic.h"
+
+#include <QButtonGroup>
+#include <QKeyEvent>
+
+Q_LOGGING_CATEGORY(lcMagnetic, "orbe.magnetic")
+
 FrameMagic::FrameMagic(QWidget *parent)
     : QFrame(parent)
+    , ui(std::make_unique<Ui::FrameMagic>())
 {
-    setObjectName(QStringLiteral("FrameMagic"));
+    ui->setupUi(this);
+    look::setStyleOnce(this, magneticstyle::Page);
+    pages = {ui->page0, ui->page1, ui->page2, ui->page3, ui->page4};
+    DialogDeviceConnect *connection = DialogDeviceConnect::instance();
+    for (MagneticPage *page : std::as_const(pages))
+        page->attach(ui->frameKeyboard, connection);
+    buildNavigation();
+    connectKeyboard();
+    if (connection)
+        connectDevice(connection);
+    ui->pushButtonSet0->click();
+}
+
+FrameMagic::~FrameMagic() = default;
+
+void FrameMagic::buildNavigation()
+{
+    auto *group = new QButtonGroup(this);
+    int id = 0;
+    for (QPushButton *button : {ui->pushButtonSet0, ui->pushButtonSet1, ui->pushButtonSet2,
+                                ui->pushButtonSet3, ui->pushButtonSet4}) {
+        group->addButton(button, id++);
+        FocusRing::follow(button, look::PillRadius);
+    }
+    connect(group, &QButtonGroup::idClicked, this, &FrameMagic::showPage);
+}
+
+void FrameMagic::connectKeyboard()
+{
+    connect(ui->frameKeyboard, &ModuleKeyboard::onSelect, this, &FrameMagic::showSelection);
+    connect(ui->frameKeyboard, &ModuleKeyboard::onKeyClicked, this,
+            [this](const QString &, uchar code) { currentPage()->keyClicked(code); });
+}
+
+void FrameMagic::connectDevice(const DialogDeviceConnect *connection)
+{
+    connect(connection, &DialogDeviceConnect::onReadDone, this, [this] {
+        ui->pushButtonSet0->click();
+        for (MagneticPage *page : std::as_const(pages))
+            page->readDone();
+    });
+    connect(connection, &DialogDeviceConnect::onKeyTest, ui->page4, &KeyTestPage::showSample);
+}
+
+MagneticPage *FrameMagic::currentPage() const
+{
+    return pages.at(ui->stackedWidget->currentIndex());
+}
+
+void FrameMagic::showPage(int index)
+{
+    MagneticPage *next = pages.at(index);
+    if (next != currentPage())
+        currentPage()->leavePage();
+    ui->stackedWidget->setCurrentIndex(index);
+    ui->frameKeyboard->selectAll(false);
+    ui->frameKeyboard->setEnabled(next->usesKeys());
+    ui->frameKeyboard->resetModes();
+    next->enterPage();
+}
+
+void FrameMagic::showSelection()
+{
+    QByteArray codes;
+    const int count = ui->frameKeyboard->selectedCodes(codes);
+    const QString text = tr("已选中按键的数量") + QStringLiteral(": %1").arg(count);
+    for (MagneticPage *page : std::as_const(pages))
+        page->showSelection(text);
+}
+
+void FrameMagic::keyPressEvent(QKeyEvent *event)
+{
+    ui->page4->takeKeyPress(*event);
+    QFrame::keyPressEvent(event);
+}
+
+void FrameMagic::keyReleaseEvent(QKeyEvent *event)
+{
+    ui->page4->takeKeyRelease(*event);
+    QFrame::keyReleaseEvent(event);
+}
+
+void FrameMagic::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        showSelection();
+    }
+    QFrame::changeEvent(event);
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// Style texts of the magnetic pages.
+namespace magneticstyle {
+
+/// Step buttons and text boxes of travels, and the titles above them.
+extern const QString Controls;
+
+/// Panels, cards, texts and buttons of FrameMagic.
+extern const QString Page;
+
+} // namespace magneticstyle

@@ -47,10 +47,11 @@ function(orbe_program name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 endfunction()
 
-# orbe_test(<name> SOURCES ... [LINKS ...] [TIMEOUT seconds])
+# orbe_test(<name> SOURCES ... [LINKS ...] [TIMEOUT seconds] [SYSTEM])
 # A Qt Test program, run by CTest without a screen and, where it needs hidapi, on the virtual keyboards.
+# SYSTEM labels what leans on the operating system, so that it can be picked out: ctest -L system
 function(orbe_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "SYSTEM" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     orbe_qt_target(${name})
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test)
@@ -63,4 +64,7 @@ function(orbe_test name)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp")
+    if(ARG_SYSTEM)
+        set_tests_properties(${name} PROPERTIES LABELS system)
+    endif()
 endfunction()

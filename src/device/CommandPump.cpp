@@ -148,12 +148,12 @@ void CommandPump::pumpStep()
     lastCommand = framing::close(sendQueue.takeFirst());
     if (isWireless) {
         dropStrayReports();
-        armRead(WirelessReplyDelay);
         send(framing::wrapWireless(lastCommand));
     } else {
         send(framing::wrapWired(lastCommand));
-        armRead(WiredReplyDelay);
     }
+    // Not before the frame is out: a write that takes its time must not shorten the gap to the next one.
+    armRead(isWireless ? WirelessReplyDelay : WiredReplyDelay);
 }
 
 // Over the air every answer goes to every program and thread that has the keyboard open, so the answer to a

@@ -14,6 +14,7 @@ class TestSystemInfo : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void cleanupTestCase() { autostart::disable(); }
     void choiceIsKept_data();
     void choiceIsKept();
 
@@ -24,6 +25,7 @@ private:
 void TestSystemInfo::initTestCase()
 {
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    autostart::disable(); // where the entry stands in the registry, another run may have left it
     QVERIFY(!autostart::isEnabled());
 }
 

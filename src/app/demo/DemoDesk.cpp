@@ -1,10 +1,14 @@
 #include "DemoDesk.h"
 
+#include "KeyboardLayout.h"
+#include "KeyMatrix.h"
+
 #include <QCheckBox>
 #include <QLabel>
 #include <QShortcut>
 #include <QVBoxLayout>
 
+using namespace std::chrono_literals;
 using virtualhid::VirtualBus;
 
 namespace {
@@ -12,6 +16,9 @@ namespace {
 constexpr int Margin = 24;
 constexpr int Spacing = 8;
 constexpr int DigitKeys = 9;
+constexpr auto FingerPeriod = 600ms; ///< from one key to the next
+constexpr auto FingerTravel = 200ms; ///< of a key on its way down, and up
+constexpr auto FingerHold = 100ms;
 
 QString nameOf(const sim::Model &model)
 {
@@ -21,6 +28,11 @@ QString nameOf(const sim::Model &model)
 QString productOf(const sim::Model &model)
 {
     return QString::fromUtf8(model.product.data(), qsizetype(model.product.size()));
+}
+
+bool hasKeys(const sim::Model &model)
+{
+    return model.kind == sim::Kind::Keyboard || !model.paired.empty();
 }
 
 } // namespace
@@ -36,6 +48,7 @@ DemoDesk::DemoDesk(const QStringList &plugged, QWidget *parent)
     int number = 0;
     for (const sim::Model &model : sim::Models)
         addSwitch(layout, model, ++number, plugged.contains(nameOf(model)));
+    addFingers(layout);
 }
 
 QStringList DemoDesk::modelNames()
@@ -43,6 +56,13 @@ QStringList DemoDesk::modelNames()
     QStringList names;
     for (const sim::Model &model : sim::Models)
         names.append(nameOf(model));
+    return names;
+}
+
+QStringList DemoDesk::modelsWithCard()
+{
+    QStringList names = modelNames();
+    names.removeOne(QStringLiteral("receiver-unpaired"));
     return names;
 }
 
@@ -77,4 +97,29 @@ void DemoDesk::plug(const std::string &model, bool plugged)
         VirtualBus::instance().replug(device);
     else
         device = VirtualBus::instance().plug(model);
+}
+
+void DemoDesk::addFingers(QVBoxLayout *layout)
+{
+    auto *box = new QCheckBox(tr("依次按下所有按键"), this);
+    box->setObjectName(QStringLiteral("fingers"));
+    layout->addSpacing(Spacing);
+    layout->addWidget(box);
+    fingerTimer.setInterval(FingerPeriod);
+    connect(&fingerTimer, &QTimer::timeout, this, &DemoDesk::pressNextKey);
+    connect(box, &QCheckBox::toggled, this, [this](bool on) {
+        nextKey = 0;
+        on ? fingerTimer.start() : fingerTimer.stop();
+    });
+}
+
+void DemoDesk::pressNextKey()
+{
+    const keys::KeyPlace &key = keys::KeyboardLayout.at(nextKey);
+    nextKey = (nextKey + 1) % keys::KeyboardLayout.size();
+    const int position = keys::PositionOfCode(key.code);
+    for (const auto &[name, device] : devices) {
+        if (device && device->isPlugged() && hasKeys(device->model()))
+            device->press(position, sim::FullTravel, FingerTravel, FingerHold);
+    }
 }

@@ -2,12 +2,14 @@
 
 #include "VirtualBus.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class QVBoxLayout;
 
 /// The desk that the demo's virtual devices lie on: a small window with a switch for each that plugs it in
-/// and pulls it out. Ctrl and a digit do the same from the keyboard. GUI thread only.
+/// and pulls it out. Ctrl and a digit do the same from the keyboard. Another switch lets fingers press the
+/// keys of all keyboards that are plugged in, one after another. GUI thread only.
 class DemoDesk : public QWidget
 {
     Q_OBJECT
@@ -18,6 +20,9 @@ public:
 
     /// Names of all models.
     static QStringList modelNames();
+    /// All but the receiver that no keyboard is paired with. It has no card, and every search for keyboards
+    /// asks it again and again for two seconds.
+    static QStringList modelsWithCard();
 
     /// Plugs a model in or pulls it out; a name that isn't there changes nothing.
     void setPlugged(const QString &model, bool plugged);
@@ -25,6 +30,10 @@ public:
 private:
     void addSwitch(QVBoxLayout *layout, const sim::Model &model, int number, bool plugged);
     void plug(const std::string &model, bool plugged);
+    void addFingers(QVBoxLayout *layout);
+    void pressNextKey();
 
     std::map<std::string, virtualhid::DevicePtr> devices;
+    QTimer fingerTimer;
+    size_t nextKey = 0; ///< in the order of the board
 };

@@ -22,8 +22,7 @@ namespace {
 constexpr auto StepPause = 400ms;
 constexpr auto PollPeriod = 50ms;
 constexpr std::chrono::milliseconds Patience = 30s;
-/// Every model has a card but the receiver that no keyboard is paired with.
-const qsizetype AllCards = DemoDesk::modelNames().size() - 1;
+const qsizetype AllCards = DemoDesk::modelsWithCard().size();
 
 QWidget *hubWindow()
 {

@@ -2,8 +2,8 @@
 //
 //   OrbeHubDemo [--plug model,model,...] [--tour folder]
 //
-// --plug   what is plugged in at the start, instead of everything; the desk window plugs and unplugs while it
-// runs
+// --plug   what is plugged in at the start, instead of everything that has a card; the desk window plugs and
+//          unplugs while it runs
 // --tour   walks through the program by itself, leaves pictures in the folder, and ends
 
 #include "AppStart.h"
@@ -38,7 +38,7 @@ Wishes readArguments()
     parser.process(*QCoreApplication::instance());
     const QStringList models = parser.isSet(plug)
                                    ? parser.value(plug).split(QLatin1Char(','), Qt::SkipEmptyParts)
-                                   : DemoDesk::modelNames();
+                                   : DemoDesk::modelsWithCard();
     return {models, parser.value(tour)};
 }
 

@@ -10,7 +10,10 @@
 #include "FrameMagic.h"
 #include "FrameMain.h"
 #include "HubLog.h"
+#include "LinearFixing1.h"
 #include "Look.h"
+#include "ModuleGeneralMasker.h"
+#include "ModuleLinear.h"
 #include "ShellStyle.h"
 #include "SuperLabel.h"
 #include "ui_FrameDeviceHolder.h"
@@ -18,7 +21,10 @@
 #include <array>
 #include <QApplication>
 #include <QEvent>
+#include <QTimer>
 #include <utility>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -43,11 +49,17 @@ constexpr std::array Places{
 
 constexpr int HomePage = 0;
 constexpr int KeyPage = 1;
+constexpr int PageCount = 6;
 constexpr int FirstLeavingPlace = 6; ///< from here on a place leaves the shell
 constexpr QSize PageSize(1124, 740);
+constexpr auto FirstPageDelay = 700ms; ///< the window is painted by then
 
 constexpr int Layers = 4;
 constexpr int FirstLayerId = -2; ///< automatic ids of a button group run downward from here
+
+constexpr int PairingMargin = 20;
+const QString PairingStyle =
+    QStringLiteral("QFrame#TestLinear{background-color:white;min-height:320px; border-radius:24px;}");
 
 const QString PlaceStyle = QStringLiteral("QLabel { background-color: transparent; }");
 const QString SelectedPlaceStyle =
@@ -75,31 +87,59 @@ FrameDeviceHolder::FrameDeviceHolder(QWidget *parent)
 {
     ui->setupUi(this);
     new DialogDeviceConnect(this);
-    buildPages();
     buildNavigation();
     buildToolbar();
     connectToolbar();
     connectConnection();
-    showPage(labels.at(HomePage), HomePage);
+    labels.at(HomePage)->setSelected(true);
+    QTimer::singleShot(FirstPageDelay, this, &FrameDeviceHolder::buildNextPage);
 }
 
 FrameDeviceHolder::~FrameDeviceHolder() = default;
 
-void FrameDeviceHolder::buildPages()
+// Six pages cost a multiple of all else in the program's start, so they come once the window stands: one in
+// each turn of the event loop, polished, so that showing one for the first time takes no longer than later.
+void FrameDeviceHolder::buildNextPage()
 {
     QWidget *frame = ui->FrameHoder;
-    keySettings = new FrameKeySetting(frame);
-    keySettings->hide();
-    home = new FrameMain(frame);
-    auto *magnetic = new FrameMagic(frame);
-    auto *macros = new FrameMacro(frame);
-    auto *light = new FrameLight(frame);
-    auto *about = new FrameAbout(frame);
-    pages = {home, keySettings, magnetic, macros, light, about};
-    for (QWidget *page : std::as_const(pages)) {
-        page->setFixedSize(PageSize);
-        ui->horizontalLayoutBR->addWidget(page, 0, Qt::AlignRight);
+    QWidget *page = nullptr;
+    switch (pages.size()) {
+    case HomePage:
+        page = home = new FrameMain(frame);
+        break;
+    case KeyPage:
+        page = keySettings = new FrameKeySetting(frame);
+        break;
+    case 2:
+        page = new FrameMagic(frame);
+        break;
+    case 3:
+        page = new FrameMacro(frame);
+        break;
+    case 4:
+        page = new FrameLight(frame);
+        break;
+    case 5:
+        page = new FrameAbout(frame);
+        break;
+    default:
+        return;
     }
+    page->setVisible(pages.isEmpty());
+    pages.append(page);
+    page->setFixedSize(PageSize);
+    ui->horizontalLayoutBR->addWidget(page, 0, Qt::AlignRight);
+    page->ensurePolished();
+    const auto children = page->findChildren<QWidget *>();
+    for (const QWidget *child : children)
+        child->ensurePolished();
+    QTimer::singleShot(0, this, &FrameDeviceHolder::buildNextPage);
+}
+
+void FrameDeviceHolder::requirePages()
+{
+    while (pages.size() < PageCount)
+        buildNextPage();
 }
 
 void FrameDeviceHolder::buildNavigation()
@@ -143,8 +183,9 @@ void FrameDeviceHolder::connectToolbar()
     // The restore sequence itself begins by putting the factory maps in place of those read.
     connect(ui->pushButtonReset, &QPushButton::clicked, DialogDeviceConnect::instance(),
             &DialogDeviceConnect::DoFactoryReset);
-    connect(ui->pushButtonFixline, &QPushButton::clicked, this, &FrameDeviceHolder::calibrationWanted);
-    connect(ui->pushButtonPairing, &QPushButton::clicked, this, &FrameDeviceHolder::pairingWanted);
+    connect(ui->pushButtonFixline, &QPushButton::clicked, this,
+            [this] { LinearFixing1({}, {}, window()).exec(); });
+    connect(ui->pushButtonPairing, &QPushButton::clicked, this, &FrameDeviceHolder::openPairing);
 }
 
 void FrameDeviceHolder::connectConnection()
@@ -154,6 +195,7 @@ void FrameDeviceHolder::connectConnection()
     connect(connection, &DialogDeviceConnect::onReadDone, this, [this] {
         qCDebug(lcHub) << "DialogDeviceConnect::onReadDone";
         showBusy(false);
+        requirePages();
         keySettings->RefreshPage();
     });
 }
@@ -161,6 +203,7 @@ void FrameDeviceHolder::connectConnection()
 void FrameDeviceHolder::setDevice(DeviceEnumInfo *device, const QString &image, const QString &name)
 {
     currentDevice = device;
+    requirePages();
     home->setDevicePicture(image);
     deviceName = name;
     showName();
@@ -174,8 +217,9 @@ void FrameDeviceHolder::showPage(SuperLabel *label, int index)
         Q_EMIT onReturn();
         return;
     }
-    if (!label || index < 0 || index >= pages.size())
+    if (!label || index < 0 || index >= PageCount)
         return;
+    requirePages();
     label->setSelected(true);
     if (labels.contains(qobject_cast<SuperLabel *>(QApplication::focusWidget())))
         label->setFocus(); // the focus doesn't stay behind on another place
@@ -204,6 +248,17 @@ void FrameDeviceHolder::showBattery(DeviceEnumInfo *device, const QString &battI
     ui->labelBatt->setToolTip(tip);
     ui->labelBatt->setAccessibleName(tip);
     showPicture(ui->labelConn, typeImg);
+}
+
+void FrameDeviceHolder::openPairing()
+{
+    ModuleLinear travel;
+    travel.setObjectName(QStringLiteral("TestLinear"));
+    travel.setContentsMargins(PairingMargin, PairingMargin, PairingMargin, PairingMargin);
+    travel.setStyleSheet(travel.styleSheet() + PairingStyle); // beside that of its controls
+    ModuleGeneralMasker masker(&travel, window());
+    connect(&masker, &ModuleGeneralMasker::onClicked, &masker, &QDialog::reject);
+    masker.exec();
 }
 
 void FrameDeviceHolder::showName()
@@ -242,6 +297,12 @@ bool FrameDeviceHolder::eventFilter(QObject *watched, QEvent *event)
             button->click(); // also for a press that began elsewhere; the button's own release finds it up
     }
     return QFrame::eventFilter(watched, event);
+}
+
+void FrameDeviceHolder::showEvent(QShowEvent *event)
+{
+    requirePages();
+    QFrame::showEvent(event);
 }
 
 void FrameDeviceHolder::changeEvent(QEvent *event)

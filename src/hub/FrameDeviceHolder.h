@@ -42,21 +42,20 @@ public:
 Q_SIGNALS:
     /// The user goes back to the cards.
     void onReturn();
-    /// The user asks for the calibration of the travels.
-    void calibrationWanted();
-    /// The user asks to pair the keyboard with its receiver.
-    void pairingWanted();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
-    void buildPages();
+    void buildNextPage();
+    void requirePages();
     void buildNavigation();
     void buildToolbar();
     void connectToolbar();
     void connectConnection();
+    void openPairing();
     void showTips();
     void showName();
     void showBusy(bool busy);
@@ -64,7 +63,7 @@ private:
     std::unique_ptr<Ui::FrameDeviceHolder> ui;
     DeviceEnumInfo *currentDevice = nullptr;
     QList<SuperLabel *> labels; ///< by index, as the pages
-    QList<QWidget *> pages;
+    QList<QWidget *> pages; ///< those built so far
     QString deviceName;
     FrameMain *home = nullptr;
     FrameKeySetting *keySettings = nullptr;

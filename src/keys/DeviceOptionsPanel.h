@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <array>
 #include <memory>
 #include <QFrame>
 
@@ -32,13 +32,20 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    using Write = std::function<void(int)>;
+    /// A number that is typed, turned with the wheel or set on a slider.
+    struct Row
+    {
+        QLineEdit *edit;
+        QSlider *slider;
+    };
 
     void fillWheels();
     void connectWheels();
-    void connectRow(QLineEdit *edit, QSlider *slider, const Write &write);
-    void showTexts();
+    void connectRow(size_t row);
+    void takeText(size_t row, const QString &text);
+    void nameControls();
 
     std::unique_ptr<Ui::DeviceOptionsPanel> ui;
+    std::array<Row, 3> rows{};
     bool refreshing = false;
 };

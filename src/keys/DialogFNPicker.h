@@ -1,10 +1,11 @@
 #pragma once
 
 #include "KeyPicker.h"
+#include "PickerButton.h"
 
 #include <memory>
 
-class QAbstractButton;
+class QButtonGroup;
 namespace Ui {
 class DialogFNPicker;
 }
@@ -26,19 +27,20 @@ public:
 
 protected:
     void clearPicked() override;
-    void pickKey(const PickerButton *key) override;
+    void pickKey(quint8 usage) override;
     void clearSlot(size_t slot) override;
 
 private:
+    PickerButton *addFunctionButton(PickerButton::Face face, const QString &name, int id, QWidget *frame);
     void addMacros();
     void addFunctions();
     void addMouseFunctions();
     void connectControls();
     void showTab(int tab);
-    void pickFunction(const QAbstractButton *button);
-    void pickMacro(int slot);
+    void pickFunction(int id);
     void takePlayMode();
 
     std::unique_ptr<Ui::DialogFNPicker> ui;
+    QButtonGroup *functionGroup;
     bool macroPicked = false;
 };

@@ -5,9 +5,9 @@
 #include <array>
 #include <QDialog>
 
-class PickerButton;
 class PickerSlot;
 class QButtonGroup;
+class QPushButton;
 
 /// What the pickers of key functions have in common: a modal dialog that covers its parent, or the primary
 /// screen, and picks a combination of up to three keys. GUI thread only.
@@ -29,16 +29,22 @@ protected:
     /// Lays the dialog over its parent; what stands in it is up to the picker.
     explicit KeyPicker(QWidget *parent);
 
-    /// Takes over the labels that show what was picked, in the order of the entry's bytes.
-    void setSlots(const std::array<PickerSlot *, SlotCount> &labels);
-    /// Fills two empty widgets with keys of that width in pixels. The group gets them with their usages as
-    /// ids.
-    void addKeys(QWidget *basicBlock, QWidget *extendedBlock, QButtonGroup *group, int keyWidth);
+    struct Parts
+    {
+        QWidget *card; ///< holds all the rest
+        std::array<PickerSlot *, SlotCount> slotLabels;
+        QWidget *basicBlock; ///< empty; is filled with keys, and so is the next
+        QWidget *extendedBlock;
+        QPushButton *ok;
+        QPushButton *cancel;
+    };
+    /// Takes over what every picker has in its form. The keys are \a keyWidth pixels wide.
+    void setUp(const Parts &parts, int keyWidth);
 
     /// Forgets what was picked, and shows that.
     virtual void clearPicked();
     /// Takes a key into the first place that is free; does nothing if none is.
-    virtual void pickKey(const PickerButton *key);
+    virtual void pickKey(quint8 usage);
     /// Empties one place; those after it stay where they are.
     virtual void clearSlot(size_t slot);
 
@@ -51,6 +57,8 @@ protected:
 
 private:
     void coverParent();
+    void markKeys();
 
+    QButtonGroup *keyGroup = nullptr;
     std::array<PickerSlot *, SlotCount> slotLabels{};
 };

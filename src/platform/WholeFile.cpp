@@ -97,8 +97,9 @@ bool replaceContent(const QString &path, QIODevice &source)
 
 } // namespace
 
-WholeFile::WholeFile(QString path)
+WholeFile::WholeFile(QString path, qint64 largest)
     : filePath(std::move(path))
+    , largestRead(largest)
 {
 }
 
@@ -109,13 +110,13 @@ std::optional<QByteArray> WholeFile::read()
     if (!info.exists())
         return std::nullopt;
     QFile file(filePath);
-    if (info.isFile() && info.size() <= LargestRead && file.open(QIODevice::ReadOnly)) {
-        QByteArray content = file.read(LargestRead);
+    if (info.isFile() && info.size() <= largestRead && file.open(QIODevice::ReadOnly)) {
+        QByteArray content = file.read(largestRead);
         if (file.error() == QFileDevice::NoError && file.atEnd())
             return content;
     }
     mustSetAside = true;
-    qCWarning(lcPlatform).noquote() << filePath << "is no readable file of at most" << LargestRead << "bytes";
+    qCWarning(lcPlatform).noquote() << filePath << "is no readable file of at most" << largestRead << "bytes";
     return std::nullopt;
 }
 

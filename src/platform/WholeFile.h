@@ -13,13 +13,14 @@ namespace platform {
 class WholeFile
 {
 public:
-    static constexpr qint64 LargestRead = 16 * 1024 * 1024; ///< bytes; a user's work is far smaller
+    static constexpr qint64 UsualLimit = 16 * 1024 * 1024; ///< bytes; most of a user's work is far smaller
 
     /// Nothing is opened yet. An empty path gives a file that can't be read or written.
-    explicit WholeFile(QString path = {});
+    /// A file of more than \a largest bytes isn't read.
+    explicit WholeFile(QString path = {}, qint64 largest = UsualLimit);
 
     /// The content. Nothing for a missing file; nothing, too, for one that can't be read, is no plain file or
-    /// is larger than LargestRead, and that one will be set aside.
+    /// is too large, and that one will be set aside.
     std::optional<QByteArray> read();
 
     /// Says that the content was not understood, or not all of it. Before the next write it is kept beside
@@ -38,6 +39,7 @@ private:
     bool keepAside() const;
 
     QString filePath;
+    qint64 largestRead;
     bool mustSetAside = false;
 };
 

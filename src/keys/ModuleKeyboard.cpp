@@ -4,18 +4,16 @@
 #include "DialogDeviceConnect.h"
 #include "KeyboardButton.h"
 #include "KeyboardLayout.h"
+#include "KeyLog.h"
 #include "KeyMatrix.h"
 #include "RubberBandLayer.h"
 #include "ui_ModuleKeyboard.h"
 
 #include <QButtonGroup>
-#include <QLoggingCategory>
 #include <QPointer>
 #include <QTimer>
 
 using namespace std::chrono_literals;
-
-Q_LOGGING_CATEGORY(lcKeys, "orbe.keys")
 
 namespace {
 

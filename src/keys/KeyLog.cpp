@@ -1,0 +1,3 @@
+#include "KeyLog.h"
+
+Q_LOGGING_CATEGORY(lcKeys, "orbe.keys")

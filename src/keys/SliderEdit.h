@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+class QLineEdit;
+class QSlider;
+
+/// Keeps a slider and a line edit on the same value. The edit follows the slider at once; the slider follows
+/// the edit when the text has stood still for 300 ms, with what is out of its range clamped. GUI thread only.
+class SliderEdit : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Format = QString (*)(int value);
+    /// The value that a text stands for, in any range.
+    using Parse = double (*)(const QString &text);
+
+    /// Lives as long as the line edit. The edit keeps its text until the slider moves.
+    SliderEdit(QSlider *slider, QLineEdit *edit, Format format, Parse parse);
+
+private:
+    void showValue();
+    void takeText();
+
+    QSlider *slider;
+    QLineEdit *edit;
+    Format format;
+    Parse parse;
+    QTimer timer;
+};
+
+/// What stands in a text before the first character that is neither a digit nor a point.
+QString leadingNumber(const QString &text);

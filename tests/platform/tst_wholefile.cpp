@@ -1,0 +1,143 @@
+#include "WholeFile.h"
+
+#include <algorithm>
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using platform::WholeFile;
+
+namespace {
+
+constexpr qsizetype ContentSize = 3'000'000;
+
+void put(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Writes for ever; the test kills it.
+int writeWithoutEnd(const QString &path)
+{
+    WholeFile file(path);
+    for (char letter = 'a';; letter = letter == 'z' ? 'a' : char(letter + 1)) {
+        if (!file.write(QByteArray(ContentSize, letter)))
+            return 1;
+    }
+}
+
+} // namespace
+
+/// Files that hold a user's work.
+class TestWholeFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void killLosesNothing();
+    void keepsWhatWasNotUnderstood_data();
+    void keepsWhatWasNotUnderstood();
+    void heldTarget();
+    void leavesCopiesOfTheUser();
+};
+
+void TestWholeFile::killLosesNothing()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("work.txt"));
+    QVERIFY(WholeFile(path).write(QByteArray(ContentSize, 'A')));
+    for (int kill = 0; kill < 12; ++kill) {
+        QProcess writer;
+        writer.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--write"), path});
+        QVERIFY(writer.waitForStarted());
+        const QByteArray before = contentOf(path);
+        QTRY_VERIFY(contentOf(path) != before); // it is at work, somewhere in the next write
+        QVERIFY(!writer.waitForFinished(kill));
+        writer.kill();
+        QVERIFY(writer.waitForFinished());
+        const QByteArray after = contentOf(path);
+        QCOMPARE(after.size(), ContentSize);
+        QCOMPARE(after.count(after.at(0)), ContentSize);
+    }
+    platform::removeLeftovers(folder.path(), {QStringLiteral("work.txt")});
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("work.txt")});
+}
+
+void TestWholeFile::keepsWhatWasNotUnderstood_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("not understood") << QByteArray("{ half") << true;
+    QTest::newRow("too large to read") << QByteArray(WholeFile::UsualLimit + 1, 'x') << false;
+}
+
+void TestWholeFile::keepsWhatWasNotUnderstood()
+{
+    QFETCH(QByteArray, content);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("work.txt"));
+    for (const char *aside : {"work.txt.broken1", "work.txt.broken2"}) {
+        put(path, content);
+        WholeFile file(path);
+        QTEST(file.read().has_value(), "isRead");
+        file.setAside();
+        QVERIFY(file.write("new"));
+        QCOMPARE(contentOf(folder.filePath(QLatin1String(aside))), content);
+        QCOMPARE(contentOf(path), QByteArray("new"));
+        QVERIFY(file.write("newer"));
+    }
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 3);
+}
+
+void TestWholeFile::heldTarget()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("work.txt"));
+    QVERIFY(QDir().mkpath(path)); // what stands in the way can't be replaced, as a file that is held
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(!WholeFile(path).write("new"));
+    QVERIFY(clock.elapsed() < 2000);
+    QVERIFY(QDir(path).exists());
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList());
+}
+
+void TestWholeFile::leavesCopiesOfTheUser()
+{
+    const QTemporaryDir folder;
+    const QStringList kept{QStringLiteral("event1.txt"), QStringLiteral("event1.txt.Backup"),
+                           QStringLiteral("event1.txt.backup"), QStringLiteral("event1.txt.broken1"),
+                           QStringLiteral("other.txt.aBcDeF")};
+    for (const QString &name : kept)
+        put(folder.filePath(name), "x");
+    put(folder.filePath(QStringLiteral("event1.txt.aBcDeF")), "x");
+    put(folder.filePath(QStringLiteral("event1.txt.broken1.aBcDeF")), "x");
+    platform::removeLeftovers(folder.path(), {QStringLiteral("event*.txt")});
+    QStringList left = QDir(folder.path()).entryList(QDir::Files);
+    std::ranges::sort(left);
+    QCOMPARE(left, kept);
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--write"))
+        return writeWithoutEnd(arguments.value(2));
+    TestWholeFile test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_wholefile.moc"

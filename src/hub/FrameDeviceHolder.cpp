@@ -92,6 +92,7 @@ FrameDeviceHolder::FrameDeviceHolder(QWidget *parent)
     connectToolbar();
     connectConnection();
     labels.at(HomePage)->setSelected(true);
+    ui->horizontalFrame->hide();
     QTimer::singleShot(FirstPageDelay, this, &FrameDeviceHolder::buildNextPage);
 }
 

@@ -1,10 +1,15 @@
 #include "FrameMagic.h"
 
+#include "DeadZonePage.h"
 #include "DialogDeviceConnect.h"
 #include "FocusRing.h"
+#include "KeyTestPage.h"
 #include "Look.h"
 #include "MagneticLog.h"
 #include "MagneticStyle.h"
+#include "StabilityPage.h"
+#include "SwitchTypePage.h"
+#include "TravelPage.h"
 #include "ui_FrameMagic.h"
 
 #include <QButtonGroup>
@@ -16,12 +21,11 @@ FrameMagic::FrameMagic(QWidget *parent)
     : QFrame(parent)
     , ui(std::make_unique<Ui::FrameMagic>())
 {
-    ui->setupUi(this);
+    // Before there are children: setting a style later would restyle each of them.
     look::setStyleOnce(this, magneticstyle::Page);
-    pages = {ui->page0, ui->page1, ui->page2, ui->page3, ui->page4};
+    ui->setupUi(this);
     DialogDeviceConnect *connection = DialogDeviceConnect::instance();
-    for (MagneticPage *page : std::as_const(pages))
-        page->attach(ui->frameKeyboard, connection);
+    buildPages(connection);
     buildNavigation();
     connectKeyboard();
     if (connection)
@@ -30,6 +34,21 @@ FrameMagic::FrameMagic(QWidget *parent)
 }
 
 FrameMagic::~FrameMagic() = default;
+
+// Not in the form, which would build the sub-pages outside the stack and restyle them when they move in.
+void FrameMagic::buildPages(DialogDeviceConnect *connection)
+{
+    QStackedWidget *stack = ui->stackedWidget;
+    keyTest = new KeyTestPage(stack);
+    pages = {new TravelPage(stack), new DeadZonePage(stack), new SwitchTypePage(stack),
+             new StabilityPage(stack), keyTest};
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        MagneticPage *page = pages.at(i);
+        page->setObjectName(QStringLiteral("page%1").arg(i));
+        page->attach(ui->frameKeyboard, connection);
+        stack->addWidget(page);
+    }
+}
 
 void FrameMagic::buildNavigation()
 {
@@ -57,7 +76,7 @@ void FrameMagic::connectDevice(const DialogDeviceConnect *connection)
         for (MagneticPage *page : std::as_const(pages))
             page->readDone();
     });
-    connect(connection, &DialogDeviceConnect::onKeyTest, ui->page4, &KeyTestPage::showSample);
+    connect(connection, &DialogDeviceConnect::onKeyTest, keyTest, &KeyTestPage::showSample);
 }
 
 MagneticPage *FrameMagic::currentPage() const
@@ -88,13 +107,13 @@ void FrameMagic::showSelection()
 
 void FrameMagic::keyPressEvent(QKeyEvent *event)
 {
-    ui->page4->takeKeyPress(*event);
+    keyTest->takeKeyPress(*event);
     QFrame::keyPressEvent(event);
 }
 
 void FrameMagic::keyReleaseEvent(QKeyEvent *event)
 {
-    ui->page4->takeKeyRelease(*event);
+    keyTest->takeKeyRelease(*event);
     QFrame::keyReleaseEvent(event);
 }
 

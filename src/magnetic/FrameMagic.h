@@ -5,6 +5,7 @@
 #include <QList>
 
 class DialogDeviceConnect;
+class KeyTestPage;
 class MagneticPage;
 namespace Ui {
 class FrameMagic;
@@ -27,6 +28,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void buildPages(DialogDeviceConnect *connection);
     void buildNavigation();
     void connectKeyboard();
     void connectDevice(const DialogDeviceConnect *connection);
@@ -35,5 +37,6 @@ private:
     MagneticPage *currentPage() const;
 
     std::unique_ptr<Ui::FrameMagic> ui;
-    QList<MagneticPage *> pages; ///< by index, as in the stack
+    QList<MagneticPage *> pages;    ///< by index, as in the stack
+    KeyTestPage *keyTest = nullptr; ///< the last of them
 };

@@ -8,7 +8,7 @@ namespace magneticstyle {
 /// Step buttons and text boxes of travels, and the titles above them.
 extern const QString Controls;
 
-/// Panels, cards, texts and buttons of FrameMagic.
+/// The same, and panels, cards, texts and buttons of FrameMagic.
 extern const QString Page;
 
 } // namespace magneticstyle

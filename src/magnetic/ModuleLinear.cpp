@@ -36,8 +36,8 @@ ModuleLinear::ModuleLinear(QWidget *parent)
     : QFrame(parent)
     , ui(std::make_unique<Ui::ModuleLinear>())
 {
+    look::setStyleOnce(this, magneticstyle::Controls); // before there are children to restyle
     ui->setupUi(this);
-    look::setStyleOnce(this, magneticstyle::Controls);
     ui->verticalSlider1->setFillColor(look::PressSide);
     ui->verticalSlider2->setFillColor(look::ReleaseSide);
     showNames();
@@ -150,6 +150,22 @@ void ModuleLinear::showNames()
 {
     travelcontrols::showNames(left());
     travelcontrols::showNames(right());
+    alignTitles();
+}
+
+/// Gives both titles the height of the taller one, so that the sliders stand side by side.
+void ModuleLinear::alignTitles()
+{
+    const int room = (width() - layout()->spacing()) / 2;
+    const int height = qMax(ui->labelTitleS1->heightForWidth(room), ui->labelTitleS2->heightForWidth(room));
+    ui->labelTitleS1->setMinimumHeight(height);
+    ui->labelTitleS2->setMinimumHeight(height);
+}
+
+void ModuleLinear::resizeEvent(QResizeEvent *event)
+{
+    alignTitles();
+    QFrame::resizeEvent(event);
 }
 
 void ModuleLinear::changeEvent(QEvent *event)

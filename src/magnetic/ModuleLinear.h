@@ -21,7 +21,7 @@ public:
     ~ModuleLinear() override;
 
     void setPaneEnabled(bool left, bool enabled);
-    /// Millimetres in a pane's box: 0 or more, not kept to the slider's range, and 0 for what is no number.
+    /// Millimetres in a pane's box, not kept to the slider's range; see travel::fromText.
     float paneValue(bool left) const;
     /// Titles of the panes; the unit is appended. They stay until set again, also in another language.
     void setPaneTitles(const QString &left, const QString &right);
@@ -34,11 +34,13 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     TravelControls left() const;
     TravelControls right() const;
     void showNames();
+    void alignTitles();
     void connectLeftPane();
     void connectRightPane();
     void leftMoved(int value);

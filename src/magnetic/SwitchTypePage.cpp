@@ -36,7 +36,7 @@ constexpr std::array Offers{
 
 constexpr int FirstId = 2; ///< automatic ids of a button group run downward from -2
 constexpr int IconSize = 56;
-constexpr int TileHeight = 84;
+constexpr int TileHeight = 96;
 constexpr int TileRadius = 14;
 
 } // namespace

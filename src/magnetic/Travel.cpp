@@ -10,6 +10,7 @@ namespace {
 constexpr int LongestNumber = 100; ///< bytes of a typed text
 constexpr float StepsPerMillimetre = 200;
 constexpr float ThousandthsPerMillimetre = 1000;
+constexpr auto MostSteps = float(std::numeric_limits<quint16>::max());
 
 } // namespace
 
@@ -25,7 +26,7 @@ float fromText(const QString &text)
             break;
         point = point || firstPoint;
     }
-    return typed.left(end).toFloat(); // a lone point and a number past any float are 0
+    return qMin(typed.left(end).toFloat(), MostSteps / StepsPerMillimetre); // a lone point is 0
 }
 
 // Both multiply in single precision, in which the decimals that pages show come out as they were meant.
@@ -36,8 +37,7 @@ int toThousandths(float millimetres, int lowest, int highest)
 
 quint32 toRaw(float millimetres)
 {
-    constexpr auto Most = std::numeric_limits<quint16>::max();
-    return quint32(qBound(0.0F, millimetres * StepsPerMillimetre, float(Most)));
+    return quint32(qBound(0.0F, millimetres * StepsPerMillimetre, MostSteps));
 }
 
 QString toText(double millimetres, int decimals)

@@ -7,8 +7,8 @@ class QString;
 /// Lengths of travel: a keyboard counts them in steps of 0.005 mm, pages show millimetres.
 namespace travel {
 
-/// The number at the start of a typed text; 0 if there is none. Of a text, at most 100 bytes count, and
-/// only up to the first character that is neither a digit nor a point.
+/// The millimetres at the start of a typed text, at most what a 16-bit table holds; 0 if there are none. Of a
+/// text, 100 bytes count, and only up to the first character that is neither a digit nor a point.
 float fromText(const QString &text);
 
 /// Thousandths of a millimetre, cut off toward zero and kept to the range.

@@ -147,6 +147,7 @@ void FrameLight::chooseWork(const QModelIndex &index)
     const LightWork work = works->works().at(index.row());
     ui->pushButtonUpdate->show();
     ui->lineEditName->setText(work.name);
+    ui->lineEditName->setCursorPosition(0); // of a long name its beginning shows
     colourMap = QByteArray::fromHex(work.data);
     showMap();
 }
@@ -155,7 +156,7 @@ void FrameLight::deleteWork(int row)
 {
     const QPointer<FrameLight> self(this);
     const auto answer = QMessageBox::question(this, tr("提示"), tr("确认要删除此作品吗？"),
-                                              QMessageBox::Yes | QMessageBox::No);
+                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
     if (!self || answer != QMessageBox::Yes)
         return;
     works->remove(row);

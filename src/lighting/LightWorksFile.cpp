@@ -2,32 +2,42 @@
 
 #include "LightingLog.h"
 
-#include <algorithm>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 namespace {
 
-constexpr qint64 LargestFile = 1024 * 1024 * 1024; ///< bytes: a work takes about 100,000
-constexpr qsizetype Frame = 80;                    ///< bytes of a work besides its texts, at most
+constexpr qint64 LargestFile = 2ll * 1024 * 1024 * 1024; ///< bytes: a work takes about 100,000
+constexpr qsizetype Frame = 80;                          ///< bytes of a work besides its texts, at most
 
 const QString ImageKey = QStringLiteral("image");
 const QString NameKey = QStringLiteral("name");
 const QString DataKey = QStringLiteral("data");
 
-/// A text in quotation marks, escaped as JSON has it.
-QByteArray quoted(const QString &text)
+void appendQuoted(QByteArray &json, const QString &text)
 {
     const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return array.sliced(1, array.size() - 2);
+    json.append(array.constData() + 1, array.size() - 2);
 }
 
-/// Pictures are long, and as long as they are what they should be, nothing in them needs escaping.
-QByteArray quoted(const QByteArray &utf8)
+/// Whether nothing in a text needs escaping. Without a way out of the loop the compiler checks many bytes at
+/// once.
+bool isPlain(const QByteArray &utf8)
 {
-    const auto plain = [](char c) { return c >= 0x20 && c < 0x7F && c != '"' && c != '\\'; };
-    return std::ranges::all_of(utf8, plain) ? '"' + utf8 + '"' : quoted(QString::fromUtf8(utf8));
+    unsigned odd = 0;
+    for (const char c : utf8)
+        odd |= unsigned(c < 0x20) | unsigned(c == '"') | unsigned(c == '\\') | unsigned(c == 0x7F);
+    return odd == 0;
+}
+
+/// Pictures are long, and as long as they are what they should be, they go in as they stand.
+void appendQuoted(QByteArray &json, const QByteArray &utf8)
+{
+    if (isPlain(utf8))
+        json.append('"').append(utf8).append('"');
+    else
+        appendQuoted(json, QString::fromUtf8(utf8));
 }
 
 } // namespace
@@ -81,9 +91,13 @@ QByteArray LightWorksFile::toJson(const QList<LightWork> &works)
     json += "[";
     for (const LightWork &work : works) {
         json += json.size() > 1 ? ",\n    {" : "\n    {";
-        json += "\n        \"data\": " + quoted(work.data);
-        json += ",\n        \"image\": " + quoted(work.image);
-        json += ",\n        \"name\": " + quoted(work.name) + "\n    }";
+        json += "\n        \"data\": ";
+        appendQuoted(json, work.data);
+        json += ",\n        \"image\": ";
+        appendQuoted(json, work.image);
+        json += ",\n        \"name\": ";
+        appendQuoted(json, work.name);
+        json += "\n    }";
     }
     json += "\n]\n";
     return json;

@@ -3,6 +3,7 @@
 #include "AccessibleControls.h"
 #include "Look.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <QKeyEvent>
@@ -12,6 +13,7 @@
 
 namespace {
 
+constexpr double CornerRadius = 8;
 constexpr double RingRadius = 8;
 constexpr double RingPen = 3;
 constexpr double LastDarkValue = 0.5;
@@ -24,6 +26,13 @@ constexpr int HueSector = 6000; ///< a sixth of the circle, in the hundredths of
 double unit(double value)
 {
     return value > 0 ? qMin(value, 1.0) : 0.0;
+}
+
+/// A channel of 0 to 1 in eight bits, rounded twice as QColor rounds.
+QRgb toByte(double channel)
+{
+    const int raised = int(channel * FullChannel + 0.5) + 128;
+    return QRgb((raised - (raised >> 8)) >> 8); // a division by 257
 }
 
 /// How much of each channel a full saturation takes away at a hue.
@@ -48,6 +57,12 @@ std::array<double, 3> takenAway(double hue)
     }
 }
 
+/// \a part of \a whole, in the steps in which QColor counts.
+double stepped(int part, int whole)
+{
+    return int(float(double(part) / whole) * FullChannel + 0.5F) / double(FullChannel);
+}
+
 /// The plane of one hue, one pixel wider and higher than \a size. Its colours are those of QColor::fromHsvF,
 /// bit for bit; asking that for each of them would take a whole frame of the screen.
 QImage planeOf(double hue, const QSize &size)
@@ -55,21 +70,24 @@ QImage planeOf(double hue, const QSize &size)
     const int width = qMax(1, size.width());
     const int height = qMax(1, size.height());
     const std::array<double, 3> taken = takenAway(hue);
-    std::array<std::vector<double>, 3> left; // of each channel, in each column
-    for (size_t channel = 0; channel < left.size(); ++channel) {
-        left[channel].resize(size_t(width) + 1);
-        for (int x = 0; x <= width; ++x) {
-            const double saturation = qRound(float(double(x) / width) * FullChannel) / double(FullChannel);
-            left[channel][size_t(x)] = 1.0 - saturation * taken[channel];
-        }
+    const size_t fullChannel = size_t(std::find(taken.begin(), taken.end(), 0.0) - taken.begin());
+    const size_t other = (fullChannel + 1) % 3;
+    const size_t another = (fullChannel + 2) % 3;
+    std::vector<double> left(size_t(width) + 1); // of the other two, in each column
+    std::vector<double> leftToo(left.size());
+    for (int x = 0; x <= width; ++x) {
+        left[size_t(x)] = 1.0 - stepped(x, width) * taken[other];
+        leftToo[size_t(x)] = 1.0 - stepped(x, width) * taken[another];
     }
+    constexpr std::array Shifts{16, 8, 0};
     QImage plane(width + 1, height + 1, QImage::Format_RGB32);
     for (int y = 0; y <= height; ++y) {
-        const double value = qRound(float(double(height - y) / height) * FullChannel) / double(FullChannel);
-        const auto byteOf = [value](double part) { return qRound(value * part * FullChannel) >> 8; };
+        const double value = stepped(height - y, height);
+        const QRgb full = 0xFF000000U | toByte(value) << Shifts[fullChannel];
         auto *line = reinterpret_cast<QRgb *>(plane.scanLine(y));
-        for (size_t x = 0; x <= size_t(width); ++x)
-            line[x] = qRgb(byteOf(left[0][x]), byteOf(left[1][x]), byteOf(left[2][x]));
+        for (size_t x = 0; x < left.size(); ++x)
+            line[x] = full | toByte(value * left[x]) << Shifts[other] |
+                      toByte(value * leftToo[x]) << Shifts[another];
     }
     return plane;
 }
@@ -81,7 +99,6 @@ ColorSquare::ColorSquare(QWidget *parent)
 {
     setCursor(Qt::CrossCursor);
     setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void ColorSquare::setColor(const QColor &color)
@@ -117,7 +134,7 @@ void ColorSquare::setCheckedColor(char checked)
     update();
 }
 
-void ColorSquare::render()
+void ColorSquare::renderPlane()
 {
     const QSize wanted = size().expandedTo(QSize(1, 1)) + QSize(1, 1);
     if (image.size() == wanted && qFuzzyCompare(imageHue + 1, hueShown + 1))
@@ -129,7 +146,7 @@ void ColorSquare::render()
 QColor ColorSquare::colorUnderPointer()
 {
     if (image.isNull())
-        render();
+        renderPlane();
     const QPoint pixel = pointer.toPoint();
     return image.pixelColor(qBound(0, pixel.x(), image.width() - 1),
                             qBound(0, pixel.y(), image.height() - 1));
@@ -184,16 +201,19 @@ void ColorSquare::keyPressEvent(QKeyEvent *event)
 
 void ColorSquare::paintEvent(QPaintEvent *)
 {
-    render();
+    renderPlane();
     {
         QPainter painter(this);
-        painter.drawImage(0, 0, image);
         painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(image);
+        painter.drawRoundedRect(rect(), CornerRadius, CornerRadius);
+        painter.setBrush(Qt::NoBrush);
         const double valueThere = height() > 0 ? (height() - pointer.y()) / height() : 0;
         painter.setPen(QPen(valueThere <= LastDarkValue ? Qt::white : Qt::black, RingPen));
         painter.drawEllipse(pointer, RingRadius, RingRadius);
         if (hasFocus())
-            look::drawFocusRing(painter, rect(), 0);
+            look::drawFocusRing(painter, rect(), CornerRadius);
     }
     if (std::exchange(reportPending, false))
         Q_EMIT colorSelected(colorUnderPointer());

@@ -38,7 +38,7 @@ protected:
 
 private:
     void movePointer(const QPointF &position);
-    void render();
+    void renderPlane();
     QColor colorUnderPointer();
 
     double hueShown = 0;

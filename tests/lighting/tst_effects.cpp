@@ -1,0 +1,268 @@
+#include "ColorLabel.h"
+#include "ColorSquare.h"
+#include "DialogColorPicker.h"
+#include "EffectCatalogue.h"
+#include "ModuleEfColor.h"
+#include "ModuleEfLumi.h"
+#include "ModuleEfMode.h"
+#include "ModuleEfSpeed.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTableView>
+#include <QTest>
+
+namespace {
+
+template <typename Widget>
+Widget *child(const QWidget &parent, const char *name)
+{
+    return parent.findChild<Widget *>(QLatin1String(name));
+}
+
+QAbstractButton *effectButton(const ModuleEfMode &module, int id)
+{
+    return module.findChild<QButtonGroup *>()->button(id);
+}
+
+QStringList optionsShown(const ModuleEfMode &module)
+{
+    const auto *box = child<QComboBox>(module, "comboBoxPic");
+    QStringList texts;
+    for (int i = 0; i < box->count(); ++i)
+        texts += box->itemText(i);
+    return texts;
+}
+
+void clickDot(const ModuleEfColor &module, int column)
+{
+    auto *table = child<QTableView>(module, "tableView");
+    const QRect cell = table->visualRect(table->model()->index(0, column));
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+}
+
+QByteArray lastBlock(const QSignalSpy &spy)
+{
+    return spy.isEmpty() ? QByteArray() : spy.last().at(0).toByteArray().toHex(' ');
+}
+
+} // namespace
+
+/// The effect controls: what a click tells the page, and what a reply shows.
+class TestEffects : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void catalogueIsSound();
+    void clickShowsTheOptions_data();
+    void clickShowsTheOptions();
+    void replyIsShownAndNotSentBack();
+    void levelsTellAndShow();
+    void clickedDotGoesToTheMiddle();
+    void customColourGoesToTheSelectedSwatch();
+    void sideLightBlock_data();
+    void sideLightBlock();
+    void sideLightReply_data();
+    void sideLightReply();
+    void pickedColourIsSentAfterAPause();
+};
+
+void TestEffects::catalogueIsSound()
+{
+    QSet<int> ids;
+    for (const Effect &effect : EffectCatalogue)
+        ids.insert(effect.id);
+    QCOMPARE(ids.size(), 23);
+    for (const EffectOptions &entry : EffectOptionTable)
+        QVERIFY(ids.contains(entry.effect));
+}
+
+void TestEffects::clickShowsTheOptions_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("options");
+    const auto row = [](int id, const char *label, const char *options) {
+        QTest::newRow(label) << id << QString::fromUtf8(label) << QString::fromUtf8(options);
+    };
+    row(4, "光波 (04)", "左,右,上,下");
+    row(7, "川流不息 (07)", "Z形,回形");
+    row(11, "彩泉涌动 (0B)", "向内,向外");
+    row(12, "百花争艳 (0C)", "向右,向左");
+    row(13, "自定义 (0D)", "图案1,图案2,图案3,图案4,图案5");
+    row(15, "峰回路转 (0F)", "顺时针,逆时针");
+    row(3, "霓虹 (03)", "无");
+    row(24, "层出不穷 (18)", "无");
+}
+
+void TestEffects::clickShowsTheOptions()
+{
+    QFETCH(int, id);
+    QFETCH(QString, options);
+    ModuleEfMode module;
+    QSignalSpy changed(&module, &ModuleEfMode::onModeChanged);
+    QTEST(effectButton(module, id)->text(), "label");
+    effectButton(module, id)->click();
+    QCOMPARE(changed, QList<QVariantList>({{id, uchar(0)}}));
+    QCOMPARE(optionsShown(module), options.split(u','));
+    auto *box = child<QComboBox>(module, "comboBoxPic");
+    QCOMPARE(box->isEnabled(), box->count() > 1);
+    box->setCurrentIndex(box->count() - 1);
+    if (box->isEnabled())
+        QCOMPARE(changed.last(), QVariantList({id, uchar(box->count() - 1)}));
+    QEvent language(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&module, &language);
+    QCOMPARE(box->currentIndex(), box->count() - 1);
+    QCOMPARE(changed.size(), box->isEnabled() ? 2 : 1);
+}
+
+void TestEffects::replyIsShownAndNotSentBack()
+{
+    ModuleEfMode module;
+    QVERIFY(effectButton(module, 1)->isChecked());
+    QSignalSpy changed(&module, &ModuleEfMode::onModeChanged);
+    module.setMode(7);
+    module.setMode(7);
+    QCOMPARE(changed.size(), 0);
+    QVERIFY(effectButton(module, 7)->isChecked());
+    QCOMPARE(optionsShown(module).first(), QStringLiteral("Z形"));
+    // An effect that isn't listed takes the next click's signal, and only that.
+    module.setMode(99);
+    effectButton(module, 3)->click();
+    effectButton(module, 5)->click();
+    child<QAbstractButton>(module, "checkBoxEFMode")->click();
+    QCOMPARE(changed, QList<QVariantList>({{5, uchar(0)}, {-1, uchar(1)}}));
+}
+
+void TestEffects::levelsTellAndShow()
+{
+    ModuleEfLumi brightness;
+    ModuleEfSpeed speed;
+    QSignalSpy bright(&brightness, &ModuleEfLumi::onBrightChanged);
+    QSignalSpy fast(&speed, &ModuleEfSpeed::onSpeedChanged);
+    auto *brightSlider = child<QSlider>(brightness, "horizontalSlider");
+    auto *speedSlider = child<QSlider>(speed, "horiCyanSlider");
+    QCOMPARE(child<QLabel>(speed, "labelTitle2")->text(), QStringLiteral("25%"));
+    for (const int level : {3, 3, 9}) { // the second one moves nothing, and so holds nothing back
+        brightness.setBright(level);
+        speed.setSpeed(level);
+    }
+    QCOMPARE(child<QLabel>(brightness, "labelTitle2")->text(), QStringLiteral("100%"));
+    brightness.setBright(4);
+    brightSlider->setValue(2);
+    speedSlider->setValue(0);
+    QCOMPARE(bright, QList<QVariantList>({{2}}));
+    QCOMPARE(fast, QList<QVariantList>({{uchar(0)}}));
+    QCOMPARE(child<QLabel>(brightness, "labelTitle2")->text(), QStringLiteral("50%"));
+}
+
+void TestEffects::clickedDotGoesToTheMiddle()
+{
+    ModuleEfColor module;
+    module.resize(480, 304);
+    module.show();
+    QSignalSpy color(&module, &ModuleEfColor::onSetColor);
+    for (const int column : {3, 6, 0, 0, 3})
+        clickDot(module, column);
+    const QColor yellow(0xFF, 0xFF, 0x00);
+    const QColor cyan(0x00, 0xFF, 0xFF);
+    const QColor red(0xFF, 0x00, 0x00);
+    QCOMPARE(color, QList<QVariantList>({{yellow, 3}, {cyan, 6}, {yellow, 3}, {red, 0}, {red, 0}}));
+    clickDot(module, 6); // back: the order is one for all instances
+}
+
+void TestEffects::customColourGoesToTheSelectedSwatch()
+{
+    ModuleEfColor module;
+    QSignalSpy color(&module, &ModuleEfColor::onSetColor);
+    auto *square = child<ColorSquare>(module, "colorSquare");
+    auto *swatch = child<ColorLabel>(module, "label_5");
+    const QColor before = swatch->color();
+    QTest::mouseClick(square, Qt::LeftButton, {}, {300, 0});
+    QCOMPARE(swatch->color(), before);
+    QTest::mousePress(swatch, Qt::LeftButton);
+    QTest::mouseClick(square, Qt::LeftButton, {}, {300, 200});
+    QCOMPARE(swatch->color(), QColor(Qt::black));
+    QCOMPARE(color, QList<QVariantList>({{QColor(Qt::red), 8}, {QColor(Qt::black), 8}}));
+    QVERIFY(child<QWidget>(module, "labelTitleL1")->isHidden());
+    QVERIFY(child<QWidget>(module, "checkBoxSingle")->isHidden());
+}
+
+void TestEffects::sideLightBlock_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QByteArray>("block");
+    const auto row = [](const char *button, const char *block) {
+        QTest::newRow(button) << QString::fromLatin1(button) << QByteArray(block);
+    };
+    row("pushButton2", "00 02 00 00 07 ff ff ff 00 00");
+    row("pushButton5", "00 03 00 00 07 ff ff ff 00 00");
+    row("pushButton4", "00 05 00 00 07 ff ff ff 00 00");
+    row("radioButtonS4", "00 00 03 00 07 ff ff ff 00 00"); // named out of order, as it stands in the group
+    row("radioButtonS3", "00 00 04 00 07 ff ff ff 00 00");
+    row("radioButtonL3", "00 00 00 03 07 ff ff ff 00 00");
+    row("pushButtonCol1", "00 00 00 00 08 ff ff ff 00 00");
+    row("pushButtonCol0", "00 00 00 00 07 ff ff ff 00 00");
+}
+
+void TestEffects::sideLightBlock()
+{
+    QFETCH(QString, button);
+    ModuleEfColor module;
+    QSignalSpy side(&module, &ModuleEfColor::onSetSideLed);
+    module.findChild<QAbstractButton *>(button)->click();
+    QCOMPARE(side.size(), 1);
+    QTEST(lastBlock(side), "block");
+    QCOMPARE(child<QWidget>(module, "labelPickup")->isHidden(), button != QStringLiteral("pushButtonCol1"));
+}
+
+void TestEffects::sideLightReply_data()
+{
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QByteArray>("block"); // that the next click on brightness 2 sends
+    QTest::newRow("whole") << QByteArray("88040103080a141e0000")
+                           << QByteArray("00 04 01 02 08 0a 14 1e 00 00");
+    QTest::newRow("all colours") << QByteArray("8801040207ffffff")
+                                 << QByteArray("00 01 04 02 07 ff ff ff 00 00");
+    QTest::newRow("places past the groups")
+        << QByteArray("88ff060908010203") << QByteArray("00 00 00 02 08 01 02 03 00 00");
+    QTest::newRow("short") << QByteArray("8804010308") << QByteArray("00 00 00 02 07 ff ff ff 00 00");
+    QTest::newRow("empty") << QByteArray() << QByteArray("00 00 00 02 07 ff ff ff 00 00");
+}
+
+void TestEffects::sideLightReply()
+{
+    QFETCH(QByteArray, reply);
+    ModuleEfColor module;
+    QSignalSpy side(&module, &ModuleEfColor::onSetSideLed);
+    module.setSideLed(QByteArray::fromHex(reply));
+    QCOMPARE(side.size(), 0);
+    child<QAbstractButton>(module, "radioButtonL2")->click();
+    QTEST(lastBlock(side), "block");
+}
+
+void TestEffects::pickedColourIsSentAfterAPause()
+{
+    ModuleEfColor module;
+    child<QAbstractButton>(module, "pushButtonCol1")->click();
+    module.show();
+    QVERIFY(!module.findChild<DialogColorPicker *>());
+    QTest::mouseRelease(child<QLabel>(module, "labelPickup"), Qt::LeftButton);
+    auto *picker = module.findChild<DialogColorPicker *>();
+    QVERIFY(picker && picker->isVisible());
+    QSignalSpy side(&module, &ModuleEfColor::onSetSideLed);
+    for (const int x : {10, 100, 200, 300})
+        QTest::mouseClick(picker->findChild<ColorSquare *>(), Qt::LeftButton, {}, {x, 0});
+    QCOMPARE(side.size(), 0);
+    QTRY_COMPARE(side.size(), 1);
+    QCOMPARE(lastBlock(side), QByteArray("00 00 00 00 08 ff 00 00 00 00"));
+}
+
+QTEST_MAIN(TestEffects)
+#include "tst_effects.moc"

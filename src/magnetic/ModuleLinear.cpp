@@ -6,6 +6,7 @@
 #include "TravelControls.h"
 #include "ui_ModuleLinear.h"
 
+#include <array>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
@@ -157,9 +158,14 @@ void ModuleLinear::showNames()
 void ModuleLinear::alignTitles()
 {
     const int room = (width() - layout()->spacing()) / 2;
-    const int height = qMax(ui->labelTitleS1->heightForWidth(room), ui->labelTitleS2->heightForWidth(room));
-    ui->labelTitleS1->setMinimumHeight(height);
-    ui->labelTitleS2->setMinimumHeight(height);
+    const std::array titles{ui->labelTitleS1, ui->labelTitleS2};
+    int height = 0;
+    for (QLabel *title : titles) {
+        title->setMinimumHeight(0); // it would count as the height that the text takes
+        height = qMax(height, title->heightForWidth(room));
+    }
+    for (QLabel *title : titles)
+        title->setMinimumHeight(height);
 }
 
 void ModuleLinear::resizeEvent(QResizeEvent *event)

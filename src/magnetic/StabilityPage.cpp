@@ -56,6 +56,7 @@ void StabilityPage::readDone()
 
 void StabilityPage::showProtection(bool on)
 {
+    ui->checkBoxTouch->setAccessibleName(ui->checkBoxTouch->text());
     ui->labelTunch->setText(on ? tr("已开启") : tr("已关闭"));
 }
 

@@ -81,7 +81,7 @@ TravelPage::TravelPage(QWidget *parent)
     FocusRing::follow(ui->pushButtonSetRT, look::PillRadius);
     connectSwitches();
     connect(ui->pushButtonSetRT, &QPushButton::clicked, this, &TravelPage::apply);
-    showFullRapidTrigger(false);
+    ui->checkBoxFullRT->click(); // off, and with it all that depends on it
     showNames();
 }
 
@@ -185,6 +185,8 @@ void TravelPage::showNames()
 {
     travelcontrols::showNames(rapidPress());
     travelcontrols::showNames(rapidRelease());
+    for (ToggleButton *toggle : {ui->checkBoxUnpress, ui->checkBoxFullRT, ui->checkBoxRTPress})
+        toggle->setAccessibleName(toggle->text());
 }
 
 void TravelPage::changeEvent(QEvent *event)

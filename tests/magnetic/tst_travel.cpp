@@ -216,24 +216,32 @@ void TestTravel::onlyTheLastTextCounts()
 
 void TestTravel::switchesDecideWhatCanBeSet()
 {
-    const auto *linear = shared->find<ModuleLinear>("frameLinear");
-    const auto enabled = [this, linear] {
-        QString list;
-        for (const char *name : {"frame0", "frame1", "frame2", "checkBoxUnpress"})
-            list += QString::number(shared->find<QWidget>(name)->isEnabled());
-        return list + QString::number(sliderOf(linear, false)->isEnabled());
+    const FrameMagic page;
+    const auto *travels = page.findChild<QWidget *>(QStringLiteral("page0"));
+    const auto find = [travels](const char *name) {
+        return travels->findChild<QWidget *>(QLatin1String(name));
     };
-    QCOMPARE(enabled(), QStringLiteral("00010"));
-    shared->click("checkBoxUnpress");
-    QCOMPARE(enabled(), QStringLiteral("00011"));
-    shared->click("checkBoxFullRT");
-    QCOMPARE(enabled(), QStringLiteral("11000"));
-    QVERIFY(!shared->find("checkBoxUnpress")->isChecked());
-    shared->click("checkBoxRTPress");
-    QCOMPARE(enabled(), QStringLiteral("11100"));
-    shared->click("checkBoxFullRT");
-    QCOMPARE(enabled(), QStringLiteral("00010"));
-    QVERIFY(!shared->find("checkBoxRTPress")->isChecked());
+    const auto click = [&page](const char *name) {
+        page.findChild<QAbstractButton *>(QLatin1String(name))->click();
+    };
+    const auto stateIs = [find](const QString &expected) {
+        QString list;
+        for (const char *name : {"frame0", "frame1", "frame2", "checkBoxUnpress", "rightPan"})
+            list += QString::number(find(name)->isEnabled());
+        for (const char *name : {"checkBoxUnpress", "checkBoxFullRT", "checkBoxRTPress"})
+            list += QString::number(qobject_cast<QAbstractButton *>(find(name))->isChecked());
+        return list == expected;
+    };
+    // enabled: the three frames, the switch on the left, its pane; on: the three switches
+    QVERIFY(stateIs(QStringLiteral("00010000")));
+    click("checkBoxUnpress");
+    QVERIFY(stateIs(QStringLiteral("00011100")));
+    click("checkBoxFullRT");
+    QVERIFY(stateIs(QStringLiteral("11000010")));
+    click("checkBoxRTPress");
+    QVERIFY(stateIs(QStringLiteral("11100011")));
+    click("checkBoxFullRT");
+    QVERIFY(stateIs(QStringLiteral("00010000")));
 }
 
 void TestTravel::selectedKeysAreSet_data()

@@ -24,8 +24,11 @@ const QString NameStyle =
 // The card of the key test has the focus while keys are tested.
 const QString PageStyle = QStringLiteral(
     "#cardKeyTest { border: 2px solid white; }"
-    "#cardKeyTest:focus { border-color: rgba(99, 41, 182, 0.4); }"
-    "QScrollArea, #scrollAreaWidgetContents0, #scrollAreaWidgetContents1 { background: transparent; }"
+    "#cardKeyTest:focus { border-color: #C1A9E2; }"
+    "QScrollArea { border: none; border-radius: 10px; background-color: #F6F6F6; padding: 4px; }"
+    "QAbstractScrollArea::corner, #scrollAreaWidgetContents0, #scrollAreaWidgetContents1"
+    " { border: none; background: transparent; }"
+    "#labelHint, #scrollAreaWidgetContents0 QLabel, #scrollAreaWidgetContents1 QLabel { font-size: 12px; }"
     "QScrollBar:vertical { width: 8px; background: transparent; margin: 0px; }"
     "QScrollBar:horizontal { height: 8px; background: transparent; margin: 0px; }"
     "QScrollBar::handle { min-width: 32px; min-height: 32px; border-radius: 4px; background-color: #D0D0D6; }"
@@ -147,7 +150,8 @@ void KeyTestPage::takeKeyPress(const QKeyEvent &event)
     heldNames.insert(event.nativeScanCode(), name);
     showHeldKeys();
     const int count = ui->gridLayout_2->count();
-    ui->gridLayout_2->addWidget(nameLabel(name), count / KeysPerRow, count % KeysPerRow);
+    ui->gridLayout_2->addWidget(nameLabel(name, ui->scrollAreaWidgetContents1), count / KeysPerRow,
+                                count % KeysPerRow);
     ui->scrollArea1->verticalScrollBar()->setValue(ui->scrollArea1->verticalScrollBar()->maximum());
 }
 
@@ -177,12 +181,14 @@ void KeyTestPage::showHeldKeys()
     QLayout *row = ui->scrollAreaWidgetContents0->layout();
     clearNames(row);
     for (const QString &name : std::as_const(heldKeys))
-        row->addWidget(nameLabel(name));
+        row->addWidget(nameLabel(name, ui->scrollAreaWidgetContents0));
 }
 
-QLabel *KeyTestPage::nameLabel(const QString &name)
+QLabel *KeyTestPage::nameLabel(const QString &name, QWidget *area)
 {
-    QLabel *label = spareLabels.isEmpty() ? new QLabel(this) : spareLabels.takeLast();
+    QLabel *label = spareLabels.isEmpty() ? new QLabel(area) : spareLabels.takeLast();
+    if (label->parentWidget() != area)
+        label->setParent(area);
     look::setStyleOnce(label, NameStyle);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
@@ -220,14 +226,19 @@ bool KeyTestPage::eventFilter(QObject *watched, QEvent *event)
     return MagneticPage::eventFilter(watched, event);
 }
 
+bool KeyTestPage::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowDeactivate)
+        releaseAll();
+    return MagneticPage::event(event);
+}
+
 void KeyTestPage::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         const bool hinting = !ui->labelHint->text().isEmpty();
         ui->retranslateUi(this);
         hintAtData(hinting);
-    } else if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
-        releaseAll();
     }
     MagneticPage::changeEvent(event);
 }

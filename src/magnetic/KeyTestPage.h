@@ -36,6 +36,7 @@ public:
     void takeKeyRelease(const QKeyEvent &event);
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -50,7 +51,7 @@ private:
 
     void releaseAll();
     void showHeldKeys();
-    QLabel *nameLabel(const QString &name);
+    QLabel *nameLabel(const QString &name, QWidget *area);
     void clearNames(QLayout *layout);
 
     std::unique_ptr<Ui::KeyTestPage> ui;

@@ -1,0 +1,243 @@
+#include "KeyScanCode.h"
+#include "Look.h"
+#include "PageOnKeyboard.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPaintEvent>
+
+namespace {
+
+constexpr quint16 KeyA = 0x1E;
+constexpr quint16 KeyOne = 0x02;
+constexpr QRgb Accent = 0xFF6329B6;
+
+/// What this system calls a key natively.
+quint32 nativeScan(quint16 scan)
+{
+    quint32 native = 0;
+    while (native < 0x200 && platform::keyScanCode(native) != scan)
+        ++native;
+    return native;
+}
+
+} // namespace
+
+/// The live travel and the test of the keys that the computer receives.
+class TestKeyTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void depthShows_data();
+    void depthShows();
+    void onlyTheChangeIsPainted();
+    void testRunsWhileItIsOn();
+    void keysAreNamed_data();
+    void keysAreNamed();
+    void heldAndSeenKeys();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void type(QEvent::Type type, quint16 scan, const char *text, bool repeat = false);
+    QString names(const char *area) const;
+    QString held() const { return names("scrollAreaWidgetContents0"); }
+    QString seen() const { return names("scrollAreaWidgetContents1"); }
+    void sample(int raw) const;
+    int barEnd() const;
+    int shownFrame() const;
+
+    PageOnKeyboard shown;
+    QWidget *ruler = shown.find<QWidget>("labelPress");
+    QList<QRect> painted; ///< of the ruler
+};
+
+void TestKeyTest::initTestCase()
+{
+    QVERIFY(shown.device.readAll());
+    shown.page.setFixedSize(1124, 740);
+    shown.page.show();
+    QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+    shown.click("pushButtonSet4");
+    ruler->installEventFilter(this);
+}
+
+void TestKeyTest::init()
+{
+    for (const char *test : {"checkBoxKeytest0", "checkBoxKeytest1"}) {
+        if (!shown.find(test)->isChecked())
+            shown.click(test);
+    }
+}
+
+bool TestKeyTest::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() == QEvent::Paint)
+        painted += static_cast<QPaintEvent *>(event)->rect();
+    return false;
+}
+
+/// The keyboard sends a depth, and the page takes it.
+void TestKeyTest::sample(int raw) const
+{
+    QSignalSpy taken(&shown.device.connection, &DialogDeviceConnect::onKeyTest);
+    sim::Bytes report{0x05, 0x1B, sim::Byte(raw), sim::Byte(raw >> 8)};
+    report.resize(64);
+    shown.device.keyboard->injectInput(sim::Channel::KeyTest, report);
+    QVERIFY(taken.wait(1000));
+}
+
+/// Last row that the bar reaches, 0 if there is none.
+int TestKeyTest::barEnd() const
+{
+    const QImage image = ruler->grab().toImage();
+    int y = image.height() - 1;
+    while (y > 0 && image.pixel((50 + image.width() - 30) / 2, y) != Accent)
+        --y;
+    return y;
+}
+
+/// Number of the picture of the key.
+int TestKeyTest::shownFrame() const
+{
+    const auto *key = shown.find<QLabel>("labelKeymt");
+    const QImage image = key->pixmap(Qt::ReturnByValue).toImage();
+    int frame = 9;
+    while (frame >= 0 &&
+           image != look::picture(QStringLiteral(":/images/press/press0%1.png").arg(frame), key).toImage())
+        --frame;
+    return frame;
+}
+
+void TestKeyTest::depthShows_data()
+{
+    QTest::addColumn<int>("raw");
+    QTest::addColumn<int>("frame");
+    QTest::addColumn<double>("depth");
+    QTest::newRow("at rest") << 0 << 9 << 0.0;
+    QTest::newRow("half the way") << 360 << 4 << 0.5;
+    QTest::newRow("nearly down") << 684 << 0 << 0.95;
+    QTest::newRow("beyond the bottom") << 0xFFFF << 0 << 0.999;
+}
+
+void TestKeyTest::depthShows()
+{
+    QFETCH(int, raw);
+    QFETCH(double, depth);
+    sample(raw);
+    QCOMPARE(barEnd(), int((ruler->height() - 28) * depth));
+    QTEST(shownFrame(), "frame");
+}
+
+void TestKeyTest::onlyTheChangeIsPainted()
+{
+    sample(360);
+    QTest::qWait(20);
+    painted.clear();
+    sample(370);
+    QTRY_COMPARE(painted.size(), 1);
+    QCOMPARE(painted[0].width(), ruler->width() - 80);
+    QVERIFY(painted[0].height() < 8);
+}
+
+void TestKeyTest::testRunsWhileItIsOn()
+{
+    shown.click("checkBoxKeytest0");
+    QVERIFY(!shown.device.keyboard->keyTestRunning());
+    sample(700);
+    QCOMPARE(barEnd(), 0);
+    QCOMPARE(shownFrame(), 9);
+
+    shown.device.readDone.clear();
+    shown.device.connection.DoReadAll();
+    shown.click("checkBoxKeytest0"); // not sent before the end of the read, which shows another sub-page
+    QVERIFY(shown.device.readDone.wait(20000));
+    QTRY_VERIFY(shown.device.keyboard->keyTestRunning());
+    shown.click("pushButtonSet4");
+    sample(360);
+    QCOMPARE(shownFrame(), 4);
+}
+
+void TestKeyTest::type(QEvent::Type type, quint16 scan, const char *text, bool repeat)
+{
+    QKeyEvent event(type, 0, Qt::NoModifier, nativeScan(scan), 0, 0, QString::fromUtf8(text), repeat);
+    QCoreApplication::sendEvent(&shown.page, &event);
+}
+
+/// Names that stand in an area, in order.
+QString TestKeyTest::names(const char *area) const
+{
+    QStringList list;
+    const QLayout *layout = shown.find<QWidget>(area)->layout();
+    for (int i = 0; i < layout->count(); ++i)
+        list += qobject_cast<QLabel *>(layout->itemAt(i)->widget())->text();
+    return list.join(u' ');
+}
+
+void TestKeyTest::keysAreNamed_data()
+{
+    QTest::addColumn<int>("scan");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a letter") << int(KeyA) << QByteArray("a") << QStringLiteral("A");
+    QTest::newRow("no text") << 0x3B << QByteArray() << QStringLiteral("F1");
+    QTest::newRow("nothing but space") << 0x39 << QByteArray(" ") << QStringLiteral("Space");
+    QTest::newRow("a control character") << 0x0E << QByteArray("\b") << QStringLiteral("BackSpace");
+    QTest::newRow("an extended key") << 0xE047 << QByteArray() << QStringLiteral("Home");
+    QTest::newRow("an unknown key") << 0x7F << QByteArray() << QString();
+}
+
+void TestKeyTest::keysAreNamed()
+{
+    QFETCH(int, scan);
+    QFETCH(QByteArray, text);
+    QFETCH(QString, name);
+    shown.click("checkBoxKeytest1");
+    type(QEvent::KeyPress, quint16(scan), text.constData());
+    QCOMPARE(shown.find<QGridLayout>("gridLayout_2")->count(), 0);
+    shown.click("checkBoxKeytest1");
+    type(QEvent::KeyPress, quint16(scan), text.constData());
+    QCOMPARE(held(), name);
+    QCOMPARE(seen(), name);
+    const QLayoutItem *label = shown.find<QGridLayout>("gridLayout_2")->itemAt(0);
+    QCOMPARE(label->widget()->width(), name.size() < 4 ? 42 : 80);
+    type(QEvent::KeyRelease, quint16(scan), text.constData());
+    QCOMPARE(held(), QString());
+}
+
+void TestKeyTest::heldAndSeenKeys()
+{
+    shown.click("checkBoxKeytest1");
+    shown.click("checkBoxKeytest1");
+    type(QEvent::KeyRelease, KeyA, "a"); // not known of
+    type(QEvent::KeyPress, KeyA, "a");
+    type(QEvent::KeyPress, KeyOne, "!");
+    for (const QEvent::Type again : {QEvent::KeyRelease, QEvent::KeyPress})
+        type(again, KeyOne, "!", true);
+    QCOMPARE(held(), QStringLiteral("A !"));
+    type(QEvent::KeyRelease, KeyOne, "1"); // Shift went up before it
+    QCOMPARE(held(), QStringLiteral("A"));
+    for (int i = 0; i < 30; ++i) {
+        type(QEvent::KeyRelease, KeyA, "a");
+        type(QEvent::KeyPress, KeyA, "a");
+    }
+    QCOMPARE(seen(), QStringLiteral("A !") + QStringLiteral(" A").repeated(30));
+    const QWidget *last = shown.find<QGridLayout>("gridLayout_2")->itemAtPosition(3, 1)->widget();
+    QTRY_COMPARE(last->visibleRegion().boundingRect(), last->rect()); // scrolled to
+
+    shown.click("checkBoxKeytest1");
+    QCOMPARE(seen(), QString());
+    QCOMPARE(held(), QStringLiteral("A"));
+    QWidget other; // in which the key is let go
+    other.show();
+    other.activateWindow();
+    QTRY_COMPARE(held(), QString());
+}
+
+QTEST_MAIN(TestKeyTest)
+#include "tst_keytest.moc"

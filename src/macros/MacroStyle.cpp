@@ -19,7 +19,7 @@ const QString Legend = QStringLiteral("QLabel { color: #6B6B75; font-size: 12.5p
 
 const QString AccentButton =
     QStringLiteral("QPushButton { border: none; border-radius: 16px; background-color: #6329B6; color: white;"
-                   " font-size: 14px; padding: 0px 16px; }"
+                   " font-size: 14px; padding: 0px 11px; }"
                    "QPushButton:hover { background-color: #7440C0; }"
                    "QPushButton:pressed { background-color: #52209A; }"
                    "QPushButton:checked { background-color: #FFA73C; color: #222222; }"
@@ -28,7 +28,7 @@ const QString AccentButton =
 
 const QString PlainButton =
     QStringLiteral("QPushButton { border: 1px solid #E0E0E4; border-radius: 16px; background-color: white;"
-                   " color: #222222; font-size: 14px; padding: 0px 14px; }"
+                   " color: #222222; font-size: 14px; padding: 0px 10px; }"
                    "QPushButton:hover { border-color: #D8BDFF; background-color: #FAF7FF; }"
                    "QPushButton:pressed { background-color: #F0E8FB; }"
                    "QPushButton:disabled { color: #B3B3B3; background-color: #F6F6F6; }");
@@ -42,11 +42,13 @@ const QString NumberBox =
     QStringLiteral("QSpinBox { border: none; border-radius: 6px; background-color: #EDEDED; color: #222222;"
                    " font-size: 14px; padding: 0px 8px; selection-background-color: #6329B6;"
                    " selection-color: white; }"
-                   "QSpinBox:disabled { color: #B3B3B3; }");
+                   "QSpinBox:disabled { color: #B3B3B3; }"
+                   "QLineEdit { border: none; background: transparent; min-height: 0px; padding: 0px; }");
 
 const QString SquareBox = QStringLiteral(
     "QSpinBox { border: 1px solid #6329B6; border-radius: 6px; background-color: white; color: #222222;"
-    " font-size: 12px; padding: 0px 1px; selection-background-color: #6329B6; selection-color: white; }");
+    " font-size: 12px; padding: 0px 1px; selection-background-color: #6329B6; selection-color: white; }"
+    "QLineEdit { border: none; background: transparent; min-height: 0px; padding: 0px; font-size: 12px; }");
 
 const QString SquareButton =
     QStringLiteral("QToolButton { border: none; border-radius: 12px; background-color: white; }"
@@ -67,9 +69,10 @@ const QString RowButton =
                    "QToolButton:hover { background-color: rgba(160, 120, 220, 0.35); }"
                    "QToolButton:pressed { background-color: rgba(160, 120, 220, 0.6); }");
 
-const QString RowEdit = QStringLiteral(
-    "QLineEdit { border: none; border-radius: 6px; background-color: white; color: #222222;"
-    " font-size: 14px; padding: 0px 6px; selection-background-color: #6329B6; selection-color: white; }");
+const QString RowEdit =
+    QStringLiteral("QLineEdit { border: none; border-radius: 6px; background-color: #EDEDED; color: #222222;"
+                   " min-height: 28px; font-size: 14px; padding: 0px 6px; selection-background-color: "
+                   "#6329B6; selection-color: white; }");
 
 const QString ScrollArea = QStringLiteral(
     "QScrollArea, QWidget#scrollContents { background: transparent; border: none; }"
@@ -94,7 +97,7 @@ const QString Card = QStringLiteral(
     "QRadioButton::indicator:hover, QCheckBox::indicator:hover { border-color: #6329B6; }"
     "QCheckBox:disabled, QLabel:disabled { color: #B3B3B3; }"
     "QLineEdit { border: none; border-radius: 6px; background-color: #EDEDED; color: #222222;"
-    " font-size: 14px; padding: 0px 10px; }"
+    " min-height: 32px; font-size: 14px; padding: 0px 10px; }"
     "QLineEdit:disabled { color: #B3B3B3; }");
 
 } // namespace macrostyle

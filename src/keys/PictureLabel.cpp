@@ -4,17 +4,23 @@
 
 void PictureLabel::setPicture(const QString &newPath)
 {
-    const qreal scale = devicePixelRatioF();
-    if (newPath == path && qFuzzyCompare(scale, loadedScale))
-        return;
     path = newPath;
+    if (isVisible())
+        load();
+}
+
+void PictureLabel::load()
+{
+    const qreal scale = devicePixelRatioF();
+    if (path == loadedPath && qFuzzyCompare(scale, loadedScale))
+        return;
+    loadedPath = path;
     loadedScale = scale;
     setPixmap(look::picture(path, this));
 }
 
 void PictureLabel::showEvent(QShowEvent *event)
 {
-    if (!path.isEmpty())
-        setPicture(path);
+    load();
     QLabel::showEvent(event);
 }

@@ -2,7 +2,8 @@
 
 #include <QLabel>
 
-/// A label with a picture that stays sharp on whatever screen the label comes to. GUI thread only.
+/// A label with a picture that stays sharp on whatever screen the label comes to. It is loaded when the label
+/// shows. GUI thread only.
 class PictureLabel : public QLabel
 {
     Q_OBJECT
@@ -12,12 +13,14 @@ public:
 
     /// Shows the picture at a resource path; one that can't be read leaves the label empty.
     void setPicture(const QString &path);
-    QString picturePath() const { return path; }
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void load();
+
     QString path;
+    QString loadedPath;
     qreal loadedScale = 0;
 };

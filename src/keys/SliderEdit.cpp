@@ -31,27 +31,30 @@ SliderEdit::SliderEdit(QSlider *followed, QLineEdit *shown, Format formatText, P
     connect(slider, &QSlider::valueChanged, this, &SliderEdit::showValue);
     connect(edit, &QLineEdit::textChanged, &timer, qOverload<>(&QTimer::start));
     connect(&timer, &QTimer::timeout, this, &SliderEdit::takeText);
+    connect(edit, &QLineEdit::editingFinished, this, &SliderEdit::endTyping);
 }
 
 void SliderEdit::showValue()
 {
     const QString text = format(slider->value());
-    if (edit->text() == text)
-        return;
-    const int cursor = edit->cursorPosition();
-    edit->setText(text);
-    if (edit->hasFocus())
-        edit->setCursorPosition(cursor); // the user is still typing
+    if (edit->text() != text && !(takingText && edit->hasFocus()))
+        edit->setText(text);
 }
 
 void SliderEdit::takeText()
 {
     const double typed = parse(edit->text());
-    const double whole = std::isfinite(typed) ? std::trunc(typed) : 0.0;
-    const double value = std::clamp(whole, double(slider->minimum()), double(slider->maximum()));
-    slider->setValue(int(value));
-    if (value != whole)
-        showValue(); // the slider may have stood at its end already
+    const double value = std::isfinite(typed) ? typed : 0.0;
+    takingText = true;
+    slider->setValue(int(std::clamp(value, double(slider->minimum()), double(slider->maximum()))));
+    showValue(); // the slider may stand there already, but not for this text
+    takingText = false;
+}
+
+void SliderEdit::endTyping()
+{
+    takeText();
+    showValue();
 }
 
 QString leadingNumber(const QString &text)

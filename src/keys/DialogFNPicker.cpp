@@ -82,18 +82,13 @@ DialogFNPicker::DialogFNPicker(QWidget *parent)
     , functionGroup(new QButtonGroup(this))
 {
     ui->setupUi(this);
-    setUp({ui->framePicker,
-           {ui->labelSelect1, ui->labelSelect2, ui->labelSelect3},
-           ui->widgetBasic,
-           ui->widgetExtended,
-           ui->pushButtonOK,
-           ui->pushButtonCancel},
-          KeyWidth);
+    setUp(partsOf(*ui), KeyWidth);
     functionGroup->setObjectName(QStringLiteral("buttonGroupFN"));
     addMacros();
     addFunctions();
     addMouseFunctions();
     connectControls();
+    ui->spinBoxM->setAccessibleName(ui->radioButtonM1->text());
     accessible::setDefaultName(this, tr("自定义按键"));
 }
 

@@ -14,13 +14,7 @@ DialogVKPicker::DialogVKPicker(QWidget *parent)
     , ui(std::make_unique<Ui::DialogVKPicker>())
 {
     ui->setupUi(this);
-    setUp({ui->framePicker,
-           {ui->labelSelect1, ui->labelSelect2, ui->labelSelect3},
-           ui->widgetBasic,
-           ui->widgetExtended,
-           ui->pushButtonOK,
-           ui->pushButtonCancel},
-          KeyWidth);
+    setUp(partsOf(*ui), KeyWidth);
     accessible::setDefaultName(this, tr("组合键"));
 }
 

@@ -38,6 +38,14 @@ protected:
         QPushButton *ok;
         QPushButton *cancel;
     };
+    /// The parts in a generated form, which have the same names in each.
+    template <typename Form>
+    static Parts partsOf(const Form &form)
+    {
+        return {form.framePicker,  {form.labelSelect1, form.labelSelect2, form.labelSelect3},
+                form.widgetBasic,  form.widgetExtended,
+                form.pushButtonOK, form.pushButtonCancel};
+    }
     /// Takes over what every picker has in its form. The keys are \a keyWidth pixels wide.
     void setUp(const Parts &parts, int keyWidth);
 

@@ -96,6 +96,7 @@ void FrameMacro::connectRecorder()
     });
     connect(recorder, &MacroRecorder::buttonRecorded, this,
             [this](int button, bool down) { addSquare(MacroType::Button, quint16(button), down, {}); });
+    connect(recorder, &MacroRecorder::interrupted, this, [this] { setRecording(false); });
 }
 
 MacroItem *FrameMacro::addRow(const Macro &macro)

@@ -68,6 +68,10 @@ bool MacroRecorder::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
         return watched == page && takeMouse(*static_cast<QMouseEvent *>(event));
+    case QEvent::WindowDeactivate:
+        if (watched == page)
+            Q_EMIT interrupted();
+        return false;
     default:
         return false;
     }

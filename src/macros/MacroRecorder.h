@@ -31,6 +31,8 @@ Q_SIGNALS:
     /// \a button is 1 (left), 2 (right) or 4 (middle). A double click is told as two clicks at once, and the
     /// mouse then counts again 200 ms later.
     void buttonRecorded(int button, bool down);
+    /// The user went to another window, where keys are out of reach.
+    void interrupted();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

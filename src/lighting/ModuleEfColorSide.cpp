@@ -59,8 +59,9 @@ void ModuleEfColor::connectSideLight()
 
 void ModuleEfColor::showPickerControls()
 {
-    ui->labelColor->setVisible(sideColorMode != 0);
-    ui->labelPickup->setVisible(sideColorMode != 0);
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{ui->frameSideColor, ui->labelColor, ui->labelPickup})
+        control->setVisible(sideColorMode != 0);
 }
 
 void ModuleEfColor::updateSideLight()

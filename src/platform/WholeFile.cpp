@@ -111,7 +111,7 @@ std::optional<QByteArray> WholeFile::read()
         return std::nullopt;
     QFile file(filePath);
     if (info.isFile() && info.size() <= largestRead && file.open(QIODevice::ReadOnly)) {
-        QByteArray content = file.read(largestRead);
+        QByteArray content = file.read(info.size()); // takes as much memory as it is told to read
         if (file.error() == QFileDevice::NoError && file.atEnd())
             return content;
     }

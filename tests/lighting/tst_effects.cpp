@@ -1,7 +1,6 @@
 #include "ColorLabel.h"
 #include "ColorSquare.h"
 #include "DialogColorPicker.h"
-#include "EffectCatalogue.h"
 #include "ModuleEfColor.h"
 #include "ModuleEfLumi.h"
 #include "ModuleEfMode.h"
@@ -11,7 +10,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QSet>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTableView>
@@ -59,29 +57,17 @@ class TestEffects : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void catalogueIsSound();
     void clickShowsTheOptions_data();
     void clickShowsTheOptions();
     void replyIsShownAndNotSentBack();
     void levelsTellAndShow();
     void clickedDotGoesToTheMiddle();
     void customColourGoesToTheSelectedSwatch();
-    void sideLightBlock_data();
     void sideLightBlock();
     void sideLightReply_data();
     void sideLightReply();
     void pickedColourIsSentAfterAPause();
 };
-
-void TestEffects::catalogueIsSound()
-{
-    QSet<int> ids;
-    for (const Effect &effect : EffectCatalogue)
-        ids.insert(effect.id);
-    QCOMPARE(ids.size(), 23);
-    for (const EffectOptions &entry : EffectOptionTable)
-        QVERIFY(ids.contains(entry.effect));
-}
 
 void TestEffects::clickShowsTheOptions_data()
 {
@@ -194,32 +180,22 @@ void TestEffects::customColourGoesToTheSelectedSwatch()
     QVERIFY(child<QWidget>(module, "checkBoxSingle")->isHidden());
 }
 
-void TestEffects::sideLightBlock_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QByteArray>("block");
-    const auto row = [](const char *button, const char *block) {
-        QTest::newRow(button) << QString::fromLatin1(button) << QByteArray(block);
-    };
-    row("pushButton2", "00 02 00 00 07 ff ff ff 00 00");
-    row("pushButton5", "00 03 00 00 07 ff ff ff 00 00");
-    row("pushButton4", "00 05 00 00 07 ff ff ff 00 00");
-    row("radioButtonS4", "00 00 03 00 07 ff ff ff 00 00"); // named out of order, as it stands in the group
-    row("radioButtonS3", "00 00 04 00 07 ff ff ff 00 00");
-    row("radioButtonL3", "00 00 00 03 07 ff ff ff 00 00");
-    row("pushButtonCol1", "00 00 00 00 08 ff ff ff 00 00");
-    row("pushButtonCol0", "00 00 00 00 07 ff ff ff 00 00");
-}
-
 void TestEffects::sideLightBlock()
 {
-    QFETCH(QString, button);
     ModuleEfColor module;
     QSignalSpy side(&module, &ModuleEfColor::onSetSideLed);
-    module.findChild<QAbstractButton *>(button)->click();
-    QCOMPARE(side.size(), 1);
-    QTEST(lastBlock(side), "block");
-    QCOMPARE(child<QWidget>(module, "labelPickup")->isHidden(), button != QStringLiteral("pushButtonCol1"));
+    for (const auto &[button, block] :
+         {std::pair("pushButton5", "00 03 00 00 07 ff ff ff 00 00"),
+          {"radioButtonS4", "00 03 03 00 07 ff ff ff 00 00"}, // as they stand in the group,
+          {"radioButtonS3", "00 03 04 00 07 ff ff ff 00 00"}, // not as they are named
+          {"radioButtonL3", "00 03 04 03 07 ff ff ff 00 00"},
+          {"pushButtonCol1", "00 03 04 03 08 ff ff ff 00 00"},
+          {"pushButtonCol0", "00 03 04 03 07 ff ff ff 00 00"}}) {
+        child<QAbstractButton>(module, button)->click();
+        QCOMPARE(lastBlock(side), QByteArray(block));
+        QCOMPARE(child<QWidget>(module, "labelPickup")->isHidden(), qstrcmp(button, "pushButtonCol1") != 0);
+    }
+    QCOMPARE(side.size(), 6);
 }
 
 void TestEffects::sideLightReply_data()

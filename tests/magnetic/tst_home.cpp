@@ -99,10 +99,8 @@ class TestHome : public QObject
 private Q_SLOTS:
     void initTestCase();
     void whatWasReadIsShownAndNotWritten();
-    void theSpeedSurvivesOtherChanges_data();
     void theSpeedSurvivesOtherChanges();
     void lightIsWritten();
-    void sideLightIsWritten();
     void travelsGoToAllKeys_data();
     void travelsGoToAllKeys();
     void rulerFollowsThePointer();
@@ -136,29 +134,23 @@ void TestHome::whatWasReadIsShownAndNotWritten()
     QVERIFY(home->control("labelPic")->isHidden());
 }
 
-void TestHome::theSpeedSurvivesOtherChanges_data()
-{
-    QTest::addColumn<int>("speed"); // as on the wire
-    for (int speed = 0; speed <= 4; ++speed)
-        QTest::addRow("%d", speed) << speed;
-}
-
 void TestHome::theSpeedSurvivesOtherChanges()
 {
-    QFETCH(int, speed);
-    home->reread({.effect = 1, .speed = sim::Byte(speed), .brightness = 4, .option = 7});
-    home->control<QSlider>("horizontalSlider")->setValue(2);
-    QCOMPARE(int(home->keys().brightness), 2);
-    QCOMPARE(int(home->keys().speed), speed);
-    home->clickEffect(Wave);
-    QCOMPARE(int(home->keys().effect), 4);
-    QCOMPARE(int(home->keys().speed), speed);
-    home->control<QSlider>("horiCyanSlider")->setValue(speed);
-    QCOMPARE(int(home->keys().speed), 4 - speed);
-    home->control<QSlider>("horizontalSlider")->setValue(0);
-    QCOMPARE(int(home->keys().speed), 4 - speed);
-    // A frame for each change; on the middle row the slider stood there already.
-    QCOMPARE(int(home->device.keyboard->frameCount()), speed == 2 ? 3 : 4);
+    for (const int speed : {0, 1, 2, 4}) { // as on the wire
+        home->reread({.effect = 1, .speed = sim::Byte(speed), .brightness = 4, .option = 7});
+        home->control<QSlider>("horizontalSlider")->setValue(2);
+        QCOMPARE(int(home->keys().brightness), 2);
+        QCOMPARE(int(home->keys().speed), speed);
+        home->clickEffect(Wave);
+        QCOMPARE(int(home->keys().effect), 4);
+        QCOMPARE(int(home->keys().speed), speed);
+        home->control<QSlider>("horiCyanSlider")->setValue(speed);
+        QCOMPARE(int(home->keys().speed), 4 - speed);
+        home->control<QSlider>("horizontalSlider")->setValue(0);
+        QCOMPARE(int(home->keys().speed), 4 - speed);
+        // A frame for each change; on the middle row the slider stood there already.
+        QCOMPARE(int(home->device.keyboard->frameCount()), speed == 2 ? 3 : 4);
+    }
 }
 
 void TestHome::lightIsWritten()
@@ -178,11 +170,7 @@ void TestHome::lightIsWritten()
         home->device.settle();
         QCOMPARE(home->device.keyboard->state().active().lighting.on, !dark);
     }
-}
 
-void TestHome::sideLightIsWritten()
-{
-    home->reread({.effect = 1, .speed = 2, .brightness = 4, .option = 7});
     home->control<QAbstractButton>("pushButton3")->click();
     home->control<QAbstractButton>("pushButtonCol1")->click();
     home->device.settle();

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QSet>
 
 namespace {
 
@@ -33,14 +32,10 @@ private Q_SLOTS:
     void cleanupTestCase() { shared.reset(); }
 
     void deadZonesAreSet();
-    void everyTypeHasItsOwnRow();
-    void offeredTypes_data();
     void offeredTypes();
     void heldTypesShow_data();
     void heldTypesShow();
-    void keysAreForSomePages_data();
     void keysAreForSomePages();
-    void optionsAreSet_data();
     void optionsAreSet();
     void optionsAreRead_data();
     void optionsAreRead();
@@ -106,57 +101,25 @@ void TestSwitches::deadZonesAreSet()
     QCOMPARE(shared->key(KeyW)->captions(), (QStringList{QStringLiteral("0.22"), QStringLiteral("0.200")}));
 }
 
-void TestSwitches::everyTypeHasItsOwnRow()
-{
-    QSet<int> ids;
-    QSet<QRgb> colors;
-    for (const switchtypes::SwitchType &type : switchtypes::All) {
-        ids.insert(type.id);
-        colors.insert(type.color);
-        QCOMPARE(&switchtypes::shownFor(type.id), &type);
-    }
-    QCOMPARE(ids.size(), 16);
-    QCOMPARE(colors.size(), 16);
-    QCOMPARE(&switchtypes::shownFor(6), &switchtypes::All.front());
-}
-
-void TestSwitches::offeredTypes_data()
-{
-    QTest::addColumn<int>("place");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("name");
-    int place = 0;
-    QTest::newRow("first") << place++ << 25 << QStringLiteral("炫光");
-    QTest::newRow("second") << place++ << 31 << QStringLiteral("闪电");
-    QTest::newRow("third, by another's name") << place++ << 95 << QStringLiteral("星芒磁轴");
-    QTest::newRow("fourth") << place++ << 1 << QStringLiteral("磁玉");
-    QTest::newRow("fifth") << place++ << 2 << QStringLiteral("磁玉Pro");
-    QTest::newRow("sixth") << place++ << 3 << QStringLiteral("磁玉Gaming");
-    QTest::newRow("seventh") << place++ << 4 << QStringLiteral("天王");
-    QTest::newRow("eighth") << place++ << 5 << QStringLiteral("万磁王");
-}
-
 void TestSwitches::offeredTypes()
 {
-    QFETCH(int, place);
-    QFETCH(int, type);
-    const QByteArray number = QByteArray::number(place);
-    QTEST(shared->find<QLabel>("labelName" + number)->text(), "name");
+    constexpr std::array Types{25, 31, 95, 1, 2, 3, 4, 5}; // by place
     shared->click("pushButtonSet2");
-    if (place == 0)
-        QVERIFY(shared->find("pushButtonMT0")->isChecked()); // picked from the start
-    shared->click("pushButtonMT" + number);
-    shared->clickKeys({"\x04", 1});
-    const QColor color(switchtypes::shownFor(quint8(type)).color);
-    QCOMPARE(borderOf(KeyA), QColor(color.blue(), color.green(), color.red())); // as keys paint it
-    shared->device.settle();
-    const QString write = QStringLiteral("fc:%1:1:%2").arg(keys::PositionOfCode(KeyA)).arg(type);
-    QCOMPARE(shared->writes(), QStringList{write});
-
+    QVERIFY(shared->find("pushButtonMT0")->isChecked()); // picked from the start
+    QStringList expected;
+    for (size_t place = 0; place < Types.size(); ++place) {
+        if (place > 0)
+            shared->click("pushButtonMT" + QByteArray::number(place));
+        shared->clickKeys({"\x04", 1});
+        const QColor color(switchtypes::shownFor(quint8(Types[place])).color);
+        QCOMPARE(borderOf(KeyA), QColor(color.blue(), color.green(), color.red())); // as keys paint it
+        expected += QStringLiteral("fc:%1:1:%2").arg(keys::PositionOfCode(KeyA)).arg(Types[place]);
+    }
+    QCOMPARE(shared->find<QLabel>("labelName2")->text(), QStringLiteral("星芒磁轴")); // another type's name
     shared->click("pushButtonSet1");
-    shared->clickKeys({"\x16", 1}); // selects
+    shared->clickKeys({"\x04", 1}); // selects
     shared->device.settle();
-    QCOMPARE(shared->device.keyboard->frameCount(), size_t(1));
+    QCOMPARE(shared->writes(), expected);
     QVERIFY(shared->key(KeyA)->toolTip().isEmpty());
 }
 
@@ -181,54 +144,36 @@ void TestSwitches::heldTypesShow()
     QCOMPARE(shared->device.keyboard->frameCount(), size_t(0));
 }
 
-void TestSwitches::keysAreForSomePages_data()
-{
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("travel") << QByteArray("pushButtonSet0") << true;
-    QTest::newRow("dead zones") << QByteArray("pushButtonSet1") << true;
-    QTest::newRow("types") << QByteArray("pushButtonSet2") << true;
-    QTest::newRow("stabilisation") << QByteArray("pushButtonSet3") << false;
-    QTest::newRow("tests") << QByteArray("pushButtonSet4") << false;
-}
-
 void TestSwitches::keysAreForSomePages()
 {
-    QFETCH(QByteArray, button);
-    shared->click("pushButtonSet0");
-    shared->clickKeys({"\x04", 1});
-    shared->click(button);
-    QByteArray codes;
-    QCOMPARE(shared->keyboard->selectedCodes(codes), 0);
-    shared->clickKeys({"\x16", 1});
-    QTEST(shared->keyboard->selectedCodes(codes) == 1, "enabled");
-    QTEST(shared->key(KeyA)->isEnabled(), "enabled");
-}
-
-void TestSwitches::optionsAreSet_data()
-{
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<size_t>("byte");
-    QTest::addColumn<int>("value");
-    for (int level = 4; level >= 0; --level)
-        QTest::addRow("level %d", level)
-            << QByteArray("radioButtonStab") + QByteArray::number(level) << LevelByte << level;
-    QTest::newRow("protection on") << QByteArray("checkBoxTouch") << ProtectionByte << 1;
-    QTest::newRow("protection off") << QByteArray("checkBoxTouch") << ProtectionByte << 0;
+    constexpr std::array Enabled{true, true, true, false, false}; // by sub-page
+    for (size_t index = 0; index < Enabled.size(); ++index) {
+        shared->keyboard->selectAll(true);
+        shared->click("pushButtonSet" + QByteArray::number(index));
+        QByteArray codes;
+        QCOMPARE(shared->keyboard->selectedCodes(codes), 0);
+        QCOMPARE(shared->key(KeyA)->isEnabled(), Enabled[index]);
+    }
 }
 
 void TestSwitches::optionsAreSet()
 {
-    QFETCH(QByteArray, button);
-    QFETCH(size_t, byte);
     shared->click("pushButtonSet3");
-    shared->click(button);
+    const auto held = [this](size_t byte) {
+        return int(shared->device.keyboard->state().settings.options[byte]);
+    };
+    for (int level = 4; level >= 0; --level) {
+        shared->click("radioButtonStab" + QByteArray::number(level));
+        QTRY_COMPARE(held(LevelByte), level);
+    }
+    for (const bool on : {true, false}) {
+        shared->click("checkBoxTouch");
+        QTRY_COMPARE(held(ProtectionByte), int(on));
+        QCOMPARE(shared->find<QLabel>("labelTunch")->text(),
+                 on ? QStringLiteral("已开启") : QStringLiteral("已关闭"));
+    }
     shared->device.settle();
-    QCOMPARE(shared->device.keyboard->frameCount(), size_t(1));
-    QTEST(int(shared->device.keyboard->state().settings.options[byte]), "value");
-    QCOMPARE(shared->find<QLabel>("labelTunch")->text(), shared->find("checkBoxTouch")->isChecked()
-                                                             ? QStringLiteral("已开启")
-                                                             : QStringLiteral("已关闭"));
+    QCOMPARE(shared->device.keyboard->frameCount(), size_t(7));
 }
 
 void TestSwitches::optionsAreRead_data()

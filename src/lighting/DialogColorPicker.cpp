@@ -43,9 +43,9 @@ DialogColorPicker::DialogColorPicker(QWidget *parent)
     , ui(std::make_unique<Ui::DialogColorPicker>())
     , pipette(new ScreenPipette(this))
 {
+    look::setStyleOnce(this, lightstyle::Picker);
     ui->setupUi(this);
     setAttribute(Qt::WA_TranslucentBackground);
-    look::setStyleOnce(this, lightstyle::Picker);
     ui->labelPick->setPixmap(look::picture(QStringLiteral(":/images/pickup2.png"), this));
     FocusRing::follow(ui->labelPick, look::EditRadius);
     FocusRing::follow(ui->pushButton, look::PillRadius);

@@ -49,8 +49,8 @@ ModuleEfColor::ModuleEfColor(QWidget *parent)
     , ui(std::make_unique<Ui::ModuleEfColor>())
     , dots(new QStandardItemModel(1, Dots, this))
 {
-    ui->setupUi(this);
     look::setStyleOnce(this, lightstyle::Panel);
+    ui->setupUi(this);
     buildDots();
     buildSwatches();
     connectSideLight();

@@ -11,8 +11,8 @@ ModuleEfLumi::ModuleEfLumi(QWidget *parent)
     : QFrame(parent)
     , ui(std::make_unique<Ui::ModuleEfLumi>())
 {
-    ui->setupUi(this);
     look::setStyleOnce(this, lightstyle::Panel);
+    ui->setupUi(this);
     ui->horizontalSlider->setFillColor(look::PressSide);
     level = new LevelControl(ui->horizontalSlider, ui->labelTitle2, this);
     connect(level, &LevelControl::chosen, this, [this](int chosen) { Q_EMIT onBrightChanged(chosen); });

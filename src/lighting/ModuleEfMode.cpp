@@ -23,8 +23,8 @@ ModuleEfMode::ModuleEfMode(QWidget *parent)
     , ui(std::make_unique<Ui::ModuleEfMode>())
     , buttons(new QButtonGroup(this))
 {
-    ui->setupUi(this);
     look::setStyleOnce(this, lightstyle::Panel);
+    ui->setupUi(this);
     buildList();
     showTexts();
     connect(buttons, &QButtonGroup::idClicked, this, &ModuleEfMode::takeEffect);

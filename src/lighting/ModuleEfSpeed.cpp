@@ -11,8 +11,8 @@ ModuleEfSpeed::ModuleEfSpeed(QWidget *parent)
     : QFrame(parent)
     , ui(std::make_unique<Ui::ModuleEfSpeed>())
 {
-    ui->setupUi(this);
     look::setStyleOnce(this, lightstyle::Panel);
+    ui->setupUi(this);
     ui->horiCyanSlider->setFillColor(look::ReleaseSide);
     level = new LevelControl(ui->horiCyanSlider, ui->labelTitle2, this);
     connect(level, &LevelControl::chosen, this, [this](int chosen) { Q_EMIT onSpeedChanged(uchar(chosen)); });

@@ -34,8 +34,8 @@ FrameMain::FrameMain(QWidget *parent)
     , ui(std::make_unique<Ui::FrameMain>())
     , connection(DialogDeviceConnect::instance())
 {
-    ui->setupUi(this);
     look::setStyleOnce(this, Style);
+    ui->setupUi(this);
     ui->labelPic->setPixmap(look::picture(QStringLiteral(":/images/Orbe-Kb3.png"), this));
     ui->labelPic->hide();
     connectTravels();

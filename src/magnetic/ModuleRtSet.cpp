@@ -42,8 +42,8 @@ ModuleRtSet::ModuleRtSet(QWidget *parent)
     : QFrame(parent)
     , ui(std::make_unique<Ui::ModuleRtSet>())
 {
-    ui->setupUi(this);
     look::setStyleOnce(this, Style + magneticstyle::Controls);
+    ui->setupUi(this);
     ui->checkBoxRTMode->setFixedSize(40, 20);
     for (QWidget *button : {ui->pushButtonMinus, ui->pushButtonPlug})
         FocusRing::follow(button, look::PillRadius);

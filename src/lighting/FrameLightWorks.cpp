@@ -5,9 +5,9 @@
 #include "LightWorksModel.h"
 #include "Look.h"
 #include "PictureDelegate.h"
+#include "PreviewPng.h"
 #include "ui_FrameLight.h"
 
-#include <QBuffer>
 #include <QHeaderView>
 #include <QMessageBox>
 
@@ -19,8 +19,6 @@ constexpr int ManageWidth = 60;
 constexpr int HeaderHeight = 32;
 constexpr int TextMargins = 12; ///< left and right of a text in its cell together
 constexpr int SmallestText = 9; ///< pixels
-/// As Qt counts: the higher, the faster and the larger. Beyond this a preview gets many times larger.
-constexpr int PngQuality = 70;
 
 /// Sets a text smaller where a language needs more room for it than the column has.
 class FittingDelegate : public QStyledItemDelegate
@@ -53,14 +51,6 @@ void grabBoard(QWidget *keyboard)
     image = QImage(keyboard->size(), QImage::Format_RGB32);
     image.fill(look::Panel);
     keyboard->render(&image, {}, {}, QWidget::DrawChildren);
-}
-
-QByteArray base64Png(const QImage &image)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG", PngQuality);
-    return buffer.data().toBase64();
 }
 
 } // namespace
@@ -115,7 +105,7 @@ void FrameLight::loadWorks()
 
 LightWork FrameLight::currentWork() const
 {
-    return {base64Png(grabbedKeyboard()), ui->lineEditName->text().trimmed(), colourMap.toHex()};
+    return {previewPng(grabbedKeyboard()).toBase64(), ui->lineEditName->text().trimmed(), colourMap.toHex()};
 }
 
 void FrameLight::saveWork()

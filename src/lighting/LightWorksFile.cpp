@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 LargestFile = 2ll * 1024 * 1024 * 1024; ///< bytes: a work takes about 100,000
+constexpr qint64 LargestFile = 2ll * 1024 * 1024 * 1024; ///< bytes: a work takes up to 50,000
 constexpr qsizetype Frame = 80;                          ///< bytes of a work besides its texts, at most
 
 const QString ImageKey = QStringLiteral("image");

@@ -7,10 +7,12 @@
 #include <memory>
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 using virtualhid::VirtualBus;
 
@@ -32,6 +34,8 @@ private Q_SLOTS:
     void batteryIsThatOfTheShownDevice();
     void longNameLeavesTheButtonsTheirRoom();
     void otherLanguageRenamesThePlaces();
+    void buttonsOpenTheirDialogs_data();
+    void buttonsOpenTheirDialogs();
 
 private:
     template <typename Widget>
@@ -259,6 +263,28 @@ void TestPageShell::otherLanguageRenamesThePlaces()
     QApplication::sendEvent(shell.get(), &change);
     QCOMPARE(place(5)->accessibleName(), QStringLiteral("灯光设置"));
     QCOMPARE(place(2)->accessibleName(), QStringLiteral("键盘设置"));
+}
+
+void TestPageShell::buttonsOpenTheirDialogs_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QByteArray>("dialog");
+    QTest::newRow("calibration") << QByteArray("pushButtonFixline") << QByteArray("LinearFixing1");
+    QTest::newRow("pairing") << QByteArray("pushButtonPairing") << QByteArray("ModuleGeneralMasker");
+}
+
+void TestPageShell::buttonsOpenTheirDialogs()
+{
+    QFETCH(QByteArray, button);
+    QByteArray opened;
+    QTimer::singleShot(0, shell.get(), [&opened] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        opened = dialog ? dialog->metaObject()->className() : "";
+        if (dialog)
+            dialog->close();
+    });
+    child<QAbstractButton>(button.constData())->click();
+    QTEST(opened, "dialog");
 }
 
 QTEST_MAIN(TestPageShell)

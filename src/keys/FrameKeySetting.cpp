@@ -39,7 +39,6 @@ FrameKeySetting::FrameKeySetting(QWidget *parent)
     , modeButtons(new QButtonGroup(this))
 {
     ui->setupUi(this);
-    look::setStyleOnce(ui->frameB, keysettingstyle::LowerHalf);
     refreshing.setSingleShot(true);
     connect(&refreshing, &QTimer::timeout, this, [this] { ui->frameOptions->setRefreshing(false); });
     buildAdvancedTabs();
@@ -202,6 +201,14 @@ void FrameKeySetting::clickAdvanced(const QString &text, quint8 code)
         tab->loadKey(key);
     if (ModuleAdvancedTab *current = tabs.value(ui->tabWidgetAdv->currentIndex()))
         current->takeKey(key);
+}
+
+bool FrameKeySetting::event(QEvent *event)
+{
+    // Styled when it first shows: most starts of the program go by without this page.
+    if (event->type() == QEvent::Polish)
+        look::setStyleOnce(ui->frameB, keysettingstyle::LowerHalf);
+    return QFrame::event(event);
 }
 
 void FrameKeySetting::showEvent(QShowEvent *event)

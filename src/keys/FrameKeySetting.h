@@ -31,6 +31,7 @@ public:
     void RefreshFnLayer();
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 

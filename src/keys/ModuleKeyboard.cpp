@@ -244,6 +244,8 @@ void ModuleKeyboard::writeChange(KeyboardButton *button, bool enabled)
     const bool known = keys::PositionOfCode(code) != keys::NoPosition;
     const QPointer<DialogDeviceConnect> connection(known ? DialogDeviceConnect::instance() : nullptr);
     const quint8 mode = connection ? connection->GetKeyMode(code) : quint8(KeyMode::Plain);
+    // What listeners write belongs to the change too.
+    const auto group = connection ? std::make_unique<DialogDeviceConnect::WriteGroup>(*connection) : nullptr;
     if (connection)
         connection->DoResetKey(code);
     const QPointer<ModuleKeyboard> self(this);

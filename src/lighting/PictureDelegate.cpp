@@ -21,7 +21,8 @@ QImage decode(const QByteArray &base64)
     const QSize size = reader.size();
     if (size.isEmpty() || size.width() > LargestSide || size.height() > LargestSide)
         return {};
-    return reader.read();
+    // Scaled with its few colours, a preview would end up dithered.
+    return reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 } // namespace

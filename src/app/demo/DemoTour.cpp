@@ -149,6 +149,7 @@ void DemoTour::planNativeKeyboard()
             [] { return DialogDeviceConnect::instance()->isReadingAll(); });
     waitFor(QStringLiteral("its end"), [] { return !DialogDeviceConnect::instance()->isReadingAll(); });
     picture(QStringLiteral("device"));
+    planPages();
     act([] { DialogDeviceConnect::instance()->show(); });
     picture(QStringLiteral("console"));
     act([] { DialogDeviceConnect::instance()->hide(); });

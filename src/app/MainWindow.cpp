@@ -6,6 +6,7 @@
 #include "FrameDeviceHolder.h"
 #include "FrameDeviceShow.h"
 #include "FrameSystemInfo.h"
+#include "HubLog.h"
 #include "HubSettings.h"
 #include "HubStyle.h"
 #include "HubTray.h"
@@ -203,7 +204,7 @@ void MainWindow::startEnumeration()
 
     hotplugTimer.setSingleShot(true);
     hotplugTimer.setInterval(HotplugQuiet);
-    connect(&hotplugTimer, &QTimer::timeout, this, [this] { enumThread->requestScan(); });
+    connect(&hotplugTimer, &QTimer::timeout, this, &MainWindow::requestScan);
     const USBNotifier *notifier = USBNotifier::instance(this);
     connect(notifier, &USBNotifier::devicePluggined, &hotplugTimer, qOverload<>(&QTimer::start));
     connect(notifier, &USBNotifier::devicePluggined, DialogDeviceConnect::instance(),
@@ -278,9 +279,17 @@ void MainWindow::startTimers()
     QTimer::singleShot(LanguageDelay, this, [this] { langMenu->selectLanguage(languages.savedLanguage()); });
 }
 
+void MainWindow::requestScan()
+{
+    if (DialogDeviceConnect::instance()->isCalibrating())
+        qCDebug(lcHub) << "No search during a calibration";
+    else
+        enumThread->requestScan();
+}
+
 void MainWindow::scanPeriodically()
 {
-    enumThread->requestScan();
+    requestScan();
     const bool onCards = ui->stackedWidget->currentIndex() == SiblingHost::CardPage;
     scanTimer.start(onCards ? CardPageScanPeriod : OtherPageScanPeriod);
 }
@@ -295,7 +304,7 @@ void MainWindow::searchAgain()
         item->widget()->hide();
         delete item;
     }
-    enumThread->requestScan();
+    requestScan();
 }
 
 void MainWindow::refreshCards()

@@ -70,6 +70,7 @@ private:
     void startTimers();
     void every(std::chrono::milliseconds period, void (MainWindow::*work)());
 
+    void requestScan();
     void scanPeriodically();
     void searchAgain();
     void refreshCards();

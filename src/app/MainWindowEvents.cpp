@@ -15,6 +15,7 @@
 #include "ui_MainWindow.h"
 
 #include <cmath>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -26,6 +27,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
+constexpr auto FramingTime = 50ms;
 constexpr auto LeaveDelay = 100ms;
 constexpr auto LockedIdleLimit = 301s;
 constexpr auto LogoPressPeriod = 300ms;
@@ -59,7 +61,8 @@ int rounded(double value)
 
 void MainWindow::watchEscape()
 {
-    if (!keyTesting && platform::isKeyDown(platform::Key::Escape)) {
+    // A dialog has its own use for the key, and a calibration wants it pressed.
+    if (!keyTesting && !QApplication::activeModalWidget() && platform::isKeyDown(platform::Key::Escape)) {
         qCDebug(lcHub) << "OrbeReturn 0";
         siblings->requestReturn();
         ui->stackedWidget->setCurrentIndex(SiblingHost::CardPage);
@@ -215,8 +218,12 @@ void MainWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     tellGate();
-    raise();
-    activateWindow();
+    // Not before the window manager has framed the window: moved between two steps of that, Qt takes it to
+    // lie at the screen's corner, and so would all that is placed over it.
+    QTimer::singleShot(FramingTime, this, [this] {
+        raise();
+        activateWindow();
+    });
     ui->centralwidget->setFocus();
     if (trayHidden)
         siblings->requestReturn();

@@ -25,6 +25,7 @@ constexpr quint8 KeyTestReportId = 0x05;
 constexpr quint8 KeyTestMark = 0x1B;
 constexpr float FullTravel = 720.0f;
 constexpr size_t InputReportLength = 64;
+constexpr int MostReportsPerPoll = 64; ///< a flood doesn't hold up the pages
 
 quint8 byteAt(const QByteArray &data, qsizetype index)
 {
@@ -138,19 +139,21 @@ void DialogDeviceConnect::takeMagnetPage(const QByteArray &reply)
         Q_EMIT onCalibration(std::exchange(cache.calibrationBuffer, {}));
 }
 
+// A tick takes whatever waits: with one report for each, a keyboard that sends one every 20 ms would soon be
+// far ahead of what is shown.
 void DialogDeviceConnect::pollInput()
 {
     inputPollTimer.stop();
-    if (inputHandle && !readingAll) {
+    for (int i = 0; i < MostReportsPerPoll && inputHandle && !readingAll; ++i) {
         std::array<quint8, 1024> buffer{};
         const int length = hid_read(inputHandle.get(), buffer.data(), InputReportLength);
-        if (length > 0) {
-            const auto used = std::min<qsizetype>(length, InputReportLength);
-            const QByteArray report(reinterpret_cast<const char *>(buffer.data()), used);
-            log->add(report, true);
-            if (buffer[0] == KeyTestReportId || buffer[1] == KeyTestMark)
-                takeKeyTestSample(report);
-        }
+        if (length <= 0)
+            break;
+        const auto used = std::min<qsizetype>(length, InputReportLength);
+        const QByteArray report(reinterpret_cast<const char *>(buffer.data()), used);
+        log->add(report, true);
+        if (buffer[0] == KeyTestReportId || buffer[1] == KeyTestMark)
+            takeKeyTestSample(report);
     }
     inputPollTimer.start();
 }

@@ -168,6 +168,9 @@ public:
 
     bool isConnected() const { return bool(commandHandle); }
     bool isReadingAll() const { return readingAll; }
+    /// Whether the calibration's sensor pages are being asked for. Another question to the keyboard could put
+    /// its answer among them.
+    bool isCalibrating() const { return calibrationTimer && calibrationTimer->isActive(); }
 
     const DeviceCache &deviceCache() const { return cache; }
     CommandRows *commandRows() const { return rows; }

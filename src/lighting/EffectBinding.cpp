@@ -9,12 +9,13 @@
 #include "ModuleEfMode.h"
 #include "ModuleEfSpeed.h"
 
+#include <array>
 #include <utility>
 
 namespace {
 
-constexpr qsizetype LightReply = 4; ///< bytes of a light reply that are used
-constexpr int SpeedByte = 2;
+constexpr qsizetype LightReply = 4;                ///< bytes of a light reply that are used
+constexpr std::array BytesNotShown{2, 4, 5, 6, 7}; ///< of the light's row: speed, option, colour
 
 } // namespace
 
@@ -55,16 +56,22 @@ void EffectBinding::connectWrites()
     connect(controls.color, &ModuleEfColor::onSetSideLed, connection, &DialogDeviceConnect::DoSetSideLed);
 }
 
-/// False if there is no connection. The row of the light shows a speed that was read as users count it,
-/// whereas a write sends the row's byte as it stands. Before the first write after a read the keyboard's own
-/// byte takes its place; otherwise a change of, say, the brightness alone would turn slow into fast.
+/// False if there is no connection. The row of the light shows a speed that was read as users count it, and
+/// no colour that was read, whereas a write sends the row's bytes as they stand. Before the first write after
+/// a read the keyboard's own bytes take their place; otherwise a change of, say, the brightness alone would
+/// turn slow into fast and any colour into white.
 bool EffectBinding::lightReady()
 {
     if (!connection)
         return false;
-    if (speedRead && !connection->isReadingAll()) {
-        CommandRows *rows = connection->commandRows();
-        rows->setByte(rows->rowOf(command::SetLedParam), SpeedByte, *std::exchange(speedRead, std::nullopt));
+    if (connection->isReadingAll())
+        return true;
+    CommandRows *rows = connection->commandRows();
+    const int row = rows->rowOf(command::SetLedParam);
+    const QByteArray light = std::exchange(lightRead, {});
+    for (const int byte : BytesNotShown) {
+        if (byte < light.size())
+            rows->setByte(row, byte, quint8(light.at(byte)));
     }
     return true;
 }
@@ -79,7 +86,7 @@ void EffectBinding::takeReply(const QByteArray &reply)
             qCWarning(lcLighting) << "A light of" << reply.size() << "bytes is not shown";
             return;
         }
-        speedRead = quint8(reply.at(2));
+        lightRead = reply;
         controls.mode->setMode(quint8(reply.at(1)));
         controls.speed->setSpeed(FastestSpeed - quint8(reply.at(2)));
         controls.brightness->setBright(quint8(reply.at(3)));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 
@@ -35,5 +35,5 @@ private:
 
     Controls controls;
     QPointer<DialogDeviceConnect> connection;
-    std::optional<quint8> speedRead; ///< the speed byte of the last reply until the light is next written
+    QByteArray lightRead; ///< the last reply of the light, until the light is next written
 };

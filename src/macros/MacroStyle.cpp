@@ -9,7 +9,7 @@ const QString Panels =
                    "#labelSize { color: #6B6B75; font-size: 14px; }"
                    "#labelHint { color: #6B6B75; font-size: 14px; }");
 
-const QString Legend = QStringLiteral("QLabel { color: #6B6B75; font-size: 12.5px; }"
+const QString Legend = QStringLiteral("QLabel { color: #6B6B75; font-size: 12px; }"
                                       "#frameChipUp { background-color: #6329B6; border-radius: 6px; }"
                                       "#frameChipDown { background-color: #E6D9F9; border-radius: 6px; }"
                                       "#frameChipDelay { background-color: #FFF3E2; border-radius: 6px; }"

@@ -66,7 +66,7 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::FocusOut:
     case QEvent::Hide:
-        delete ring;
+        dismiss();
         break;
     case QEvent::Show:
         if (control->hasFocus())
@@ -91,6 +91,17 @@ void FocusRing::show()
     place();
     ring->stackUnder(control);
     ring->show();
+}
+
+// Not deleted at once: the focus may go out in the middle of a walk over the siblings, such as the one that
+// disables them.
+void FocusRing::dismiss()
+{
+    if (!ring)
+        return;
+    ring->hide();
+    ring->deleteLater();
+    ring = nullptr;
 }
 
 void FocusRing::place()

@@ -26,6 +26,7 @@ private:
     FocusRing(QWidget *followed, int cornerRadius);
     ~FocusRing() override;
     void show();
+    void dismiss();
     void place();
 
     QWidget *control;

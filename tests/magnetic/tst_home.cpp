@@ -99,7 +99,7 @@ class TestHome : public QObject
 private Q_SLOTS:
     void initTestCase();
     void whatWasReadIsShownAndNotWritten();
-    void theSpeedSurvivesOtherChanges();
+    void speedAndColorSurviveOtherChanges();
     void lightIsWritten();
     void travelsGoToAllKeys_data();
     void travelsGoToAllKeys();
@@ -134,8 +134,15 @@ void TestHome::whatWasReadIsShownAndNotWritten()
     QVERIFY(home->control("labelPic")->isHidden());
 }
 
-void TestHome::theSpeedSurvivesOtherChanges()
+void TestHome::speedAndColorSurviveOtherChanges()
 {
+    const sim::LedParams colored{
+        .effect = 1, .speed = 1, .brightness = 4, .option = 8, .red = 9, .green = 8, .blue = 7};
+    home->reread(colored);
+    home->control<QSlider>("horizontalSlider")->setValue(2);
+    sim::LedParams darker = colored;
+    darker.brightness = 2;
+    QVERIFY(home->keys() == darker);
     for (const int speed : {0, 1, 2, 4}) { // as on the wire
         home->reread({.effect = 1, .speed = sim::Byte(speed), .brightness = 4, .option = 7});
         home->control<QSlider>("horizontalSlider")->setValue(2);

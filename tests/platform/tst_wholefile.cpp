@@ -118,7 +118,7 @@ void TestWholeFile::leavesCopiesOfTheUser()
 {
     const QTemporaryDir folder;
     const QStringList kept{QStringLiteral("event1.txt"), QStringLiteral("event1.txt.Backup"),
-                           QStringLiteral("event1.txt.backup"), QStringLiteral("event1.txt.broken1"),
+                           QStringLiteral("event1.txt.broken1"), QStringLiteral("event1.txt.former"),
                            QStringLiteral("other.txt.aBcDeF")};
     for (const QString &name : kept)
         put(folder.filePath(name), "x");

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>Farbton</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>Totzonen</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Totzonen der Tasten</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>Der Weg vom Anschlag bis zum Anheben heißt „Totzone“. Sie verhindert Aussetzer des Magnetschalters durch Störeinflüsse. Stellen Sie sie nach Bedarf ein; in diesem Bereich wird nichts ausgelöst.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Obere Totzone</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Untere Totzone</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>Virtuelle Geräte an- oder abstecken:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>Alle Tasten nacheinander drücken</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Polling-Rate</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G: Licht aus</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Bluetooth: Licht aus</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>2.4G-Tiefschlafzeit</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>Min.</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Bluetooth-Tiefschlafzeit</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Entprellstufe</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 Min.</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>Farbwähler</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>Halten und an eine beliebige Stelle des Bildschirms ziehen, um eine Farbe aufzunehmen</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Fertig</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>Befehlsverzeichnis</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>Tastenkombination</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Grundzeichen</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Zusatztasten</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makroeinstellungen</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Wiedergabemodus:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Wiederholungen</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Drücken</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>Systemfunktionen</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Mausfunktionen</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>Funktion festlegen:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Nach oben scrollen</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Nach unten scrollen</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Eigene Tastenbelegung</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>Makro</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Makro nicht aufgenommen</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Grundzeichen</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Zusatzzeichen</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Tastenkombination:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Tastenkombination</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>Weiteres</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Fn-Ebene</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>Eigene Belegung / Fn-Ebene</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*Klicken Sie zuerst oben auf eine Taste und wählen Sie dann im Dialog eine Kombination, ein Makro, eine System- oder eine Mausfunktion</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*Rechtsklick auf eine Taste löscht ihre Einstellung, deaktiviert sie oder aktiviert sie wieder</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Dynamischer Anschlag (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Halten/Tippen (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Umschalter (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Tasten der Fn-Ebene</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Eigene Tastenbelegung</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>Taste anklicken, um sie einzufärben, oder über mehrere ziehen</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>Meine Werke</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Farbwähler:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Zufallsfarbe:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>In Ebene schreiben:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>Bild 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>Bild 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>Bild 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>Bild 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>Bild 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Aus Ebene lesen:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>Noch keine Werke. Färbe Tasten ein und drücke „Speichern“</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Dieses Werk löschen?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>Mein Werk %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>Makroeinstellungen</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>Loslassen</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Drücken</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Aufnahme starten</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Feste Pause setzen (ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>Neues Makro</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Aufnahme beenden</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>Klicke auf „Aufnahme starten“ und drücke Tasten, oder füge mit „Einfügen“ ein Ereignis hinzu</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>Wähle links ein Makro</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Belegt</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Hubeinstellungen</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Totzonen</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Schaltertyp</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Stabilisierung</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Testbereich</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Ausgewählte Tasten</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Mechanischer Schalter</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Kaihua-Schalter</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Flacher Magnetschalter</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Baize-Schalter</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Eigene</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Tastenhub (global)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>Systemtaste</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>Dynamischer Anschlag</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>Halten/Tippen</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>Umschalter</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makroeinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Hubtest</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Tastentest</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>Drücken Sie eine Taste. Über Funk gibt es keine Live-Daten zum Tastenweg.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Vorschau,Name,Aktion</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Anleitung zur Kalibrierung</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Drücken Sie nacheinander jede Taste sanft bis zum Anschlag und halten Sie sie mindestens 1 Sekunde, bis sie orange wird (Taste kalibriert). Lassen Sie keine aus; Tasten dürfen erneut gedrückt werden. Bei Funkverbindung wird die Zahl der kalibrierten Tasten nicht angezeigt. Ziehen Sie während der Kalibrierung das Kabel nicht ab.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Kalibrierung starten</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>Kalibrierung</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Drücken Sie nacheinander jede Taste sanft bis zum Anschlag und halten Sie sie mindestens 1 Sekunde, bis sie orange wird (Taste kalibriert). Lassen Sie keine aus; Tasten dürfen erneut gedrückt werden. Bei Funkverbindung wird die Zahl der kalibrierten Tasten nicht angezeigt. Ziehen Sie während der Kalibrierung das Kabel nicht ab.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>Kalibrierung beenden</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Mitte</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Art des Makroereignisses wählen</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Taste drücken …</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Maustaste</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Mausposition</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Drücken (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>Über Auslösepunkt gedrückt</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Ganz durchgedrückt</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Vom Boden gelöst</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Wieder oben</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Keine Funktion</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>Über Auslösepunkt gedrückt</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Ganz durchgedrückt</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Vom Boden gelöst</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Wieder oben</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Einzeltaste</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Lichtleiste</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Effekt:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Statisch</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Atmend</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Strom</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Lichtwelle</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Helligkeit:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Tempo:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>Farbe %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Farbwähler</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Helligkeit</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>Lichtmodus</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>Licht aus</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Ablaufmodus:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Statisch</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Atmend</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Meteor</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Wellenringe</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Polarlicht</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Regentropfen</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Zusammenlauf</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Strom</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Lichtwelle</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Sternenhimmel</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Sinuswelle</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Farbfontäne</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Blütenmeer</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>Doppeltreffer</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Serpentinen</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Nieselregen</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>Spurloser Schnee</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Licht und Schatten</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Musikrhythmus</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Z-Form</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Spirale</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>Nach innen</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Nach außen</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Bild 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Bild 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Bild 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Bild 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Bild 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Tempo</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Drücken (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Loslassen (mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Wählen Sie oben eine Taste und geben Sie ihr zwei Funktionen, für Tippen und für langes Drücken (Kombinationen möglich)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Tippen</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>Zeit bis zum Auslösen von „Halten“ einstellen</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>Neues Makro</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>RT-Weg (global)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>Werterad</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Verknüpft 2 gewählte Tasten (oben jeweils auswählen): Sind beide gedrückt, gilt die zuletzt gedrückte</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>Taste A wählen</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>Taste B wählen</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Wählen Sie oben eine Taste und legen Sie ihre Funktion als Dauerfeuer oder Halten fest</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Dauerfeuer</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Keine Funktion</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (RT-Stabilisierung)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>RT Stab stabilisiert den unteren Bereich des Hubs. Ein höherer Wert ist stabiler, erhöht aber die Latenz etwas.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0 % (aus)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Schutz vor Fehlauslösung</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Aus)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>Verhindert Fehlauslösungen durch Tischvibrationen bei extremen Einstellungen und gleicht Schaltertoleranzen von 0,1 mm aus. Eingeschaltet gleicht der Algorithmus am unteren Ende den Unterschied aus und macht die Tastatur stabiler.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Schaltertyp</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>Wählen Sie nach einem Schalterwechsel unten den passenden Schalter und klicken Sie die Tasten an, in denen er steckt</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>Schalter</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Auslöse- und Rückstellpunkt getrennt einstellen:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Durchgehender Rapid Trigger (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>Ein: Rapid Trigger endet erst, wenn die Taste ganz losgelassen ist.
+Aus: Rapid Trigger endet, sobald die Taste über den Auslösepunkt steigt</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Auslöse- und Rücksetzweg getrennt einstellen</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Weg bis zum erneuten Auslösen (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Weg bis zum Rücksetzen (mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Hubtest</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>Hue</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>Dead zones</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Key dead zones</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>The distance from bottoming out until the key lifts is called the dead zone. It keeps interference from interrupting a held magnetic switch. Set it as you need; travel inside the dead zone triggers nothing.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Set</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Top dead zone</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Bottom dead zone</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>Plug in or unplug virtual devices:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>Press all keys one after another</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Polling rate</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G backlight off</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Bluetooth backlight off</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>2.4G deep sleep time</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Bluetooth deep sleep time</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Debounce level</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>Color picker</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>Hold and drag anywhere on the screen to pick a color</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Done</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>Command catalogue</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>Key combination</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Basic characters</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Extended keys</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Macro settings</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Playback mode:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Repeat count</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Press</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>System functions</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Mouse functions</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>Set function to:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Middle</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Scroll right</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Scroll up</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Scroll down</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Scroll up</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Scroll down</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Custom keys</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>Macro</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Macro not recorded</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Basic characters</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Extended characters</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Key combination:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Key combination</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>Advanced keys</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>Other settings</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Fn layer</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>Custom / Fn layer settings</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*Click a key above first, then pick a key combination, macro, system function or mouse function in the dialog to remap it</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*Right-click a key to clear its setting, disable it or enable it again</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Dynamic keystroke (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Hold/tap (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Toggle (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Fn layer key settings</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Custom keys</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>Click a key to paint it, or drag across keys to paint several</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>My works</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Color:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Color picker:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Random color:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Clear setting</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>Write to layer:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>Pic 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>Pic 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>Pic 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>Pic 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>Pic 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Read from layer:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>No works yet. Paint some keys, then press Save</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Delete this work?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>My work %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>Macro settings</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>Release</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Press</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Delay</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Start recording</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Set fixed delay (ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>New macro</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Stop recording</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>Click “Start recording” and press keys, or click “Insert” to add an event</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>Choose a macro on the left</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Used</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>bytes</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Travel settings</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Dead zones</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Switch type</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Stabilisation</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Simulated test</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Keys selected</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Mechanical switch</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Kaihua switch</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Low-profile magnetic</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst magnetic</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Baize switch</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Key travel (global)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>Quit</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>System key</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>Dynamic keystroke</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>Hold/tap</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>Toggle</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Macro settings</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Travel test</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Key test</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Input</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>Press any key. There is no live travel data over wireless.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Preview,Name,Manage</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Travel calibration guide</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Press each key gently all the way down, one after another, and hold it for at least 1 second until it turns orange (this key is calibrated). Don’t miss any; keys may be pressed again. The count of calibrated keys is not available over wireless. Don’t unplug the cable during calibration.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Start calibration</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>Travel calibration</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Press each key gently all the way down, one after another, and hold it for at least 1 second until it turns orange (this key is calibrated). Don’t miss any; keys may be pressed again. The count of calibrated keys is not available over wireless. Don’t unplug the cable during calibration.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>Finish calibration</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Delay</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Middle</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Choose the kind of macro event</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Keyboard key</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Press a key…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Mouse button</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Middle</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Mouse position</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Press (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>Pressed past actuation</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Bottomed out</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Lifted off the bottom</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Back at the top</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>No function set</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Off</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>Pressed past actuation</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Bottomed out</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Lifted off the bottom</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Back at the top</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Single key</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Light strip</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Effect:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Static</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Breathing</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Stream</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Light wave</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Color:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Brightness:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Speed:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>Color %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Color picker</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Brightness</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>Lighting mode</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>Lights off</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Playback mode:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Static</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Breathing</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Meteor</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Ripple</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Aurora</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Raindrops</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Converge</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Stream</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Light wave</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Starry sky</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Shadow</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Sine wave</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Color fountain</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Blossom</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>Two birds</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Winding path</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Drizzle</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>Traceless snow</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Layers</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Light and shade</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Music rhythm</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Up</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Down</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Z shape</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Spiral</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>Inward</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Outward</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>To the right</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>To the left</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Picture 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Picture 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Picture 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Picture 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Picture 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Clockwise</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Counterclockwise</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>None</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Speed</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Press (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Release (mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Select a key above and give it two functions, one for a tap and one for a long press (combinations are supported)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Tap</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Hold</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>Adjust the time it takes to trigger “Hold”</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>New macro</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>RT travel (global)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>Value wheel</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Binds 2 selected keys (choose each above): while both are pressed, the one pressed last wins</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>Choose key A</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>Choose key B</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Select a key above and set its function in one of two trigger modes, repeat or hold</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Repeat</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Hold</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>No function set</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (RT stabilisation)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>With RT Stab on, the firmware steadies the bottom of the travel. A higher percentage is steadier and adds a little latency.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0% (off)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Anti-mistouch mode</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Off)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>Keeps a shaking desk from triggering keys at extreme settings, and makes up for switch tolerances of up to 0.1 mm. When on, the algorithm at the bottom of the travel is tuned for a steadier keyboard.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Off</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Switch type</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>After swapping switches, choose the matching switch below and click the keys that hold it, so that the keyboard can tell them apart</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst magnetic</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>Switch</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Set press and release travel separately:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Continuous Rapid Trigger (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>On: Rapid Trigger ends only when you release the key completely.
+Off: Rapid Trigger ends when the key rises past its actuation point</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Set re-press and release travel separately</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Travel to fire on the next press (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Travel to reset on release (mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Set</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Travel test</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>Teinte</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>Zones mortes</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Zones mortes des touches</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>La distance entre la butée et le début de la remontée s’appelle « zone morte ». Elle évite les coupures du switch magnétique dues aux perturbations. Réglez-la à votre goût ; rien ne se déclenche dans cette zone.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Zone morte haute</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Zone morte basse</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>Brancher ou débrancher des appareils virtuels :</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>Appuyer sur toutes les touches l’une après l’autre</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Taux d’interrogation</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G : extinction</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Bluetooth : extinction</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>Veille profonde 2.4G</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Veille profonde Bluetooth</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Niveau d’anti-rebond</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>Sélecteur de couleur</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>Maintenez et faites glisser n’importe où sur l’écran pour prélever une couleur</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Terminé</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>Catalogue des commandes</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>Combinaison de touches</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Caractères de base</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Touches étendues</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Réglages des macros</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Mode de lecture :</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Répétitions</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Appui</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>Fonctions système</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Fonctions souris</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>Affecter la fonction :</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Droit</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Milieu</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Défil. gauche</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Défil. droite</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Défil. haut</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Défil. bas</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Défiler vers le haut</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Défiler vers le bas</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Touches personnalisées</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>Macro</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Macro non enregistrée</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Caractères de base</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Caractères étendus</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Combinaison de touches :</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>Valider</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Combinaison de touches</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>Touches avancées</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>Autres réglages</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Couche Fn</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>Personnalisé / couche Fn</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*Cliquez d’abord sur une touche ci-dessus, puis choisissez dans la fenêtre une combinaison, une macro, une fonction système ou souris</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*Clic droit sur une touche pour effacer son réglage, la désactiver ou la réactiver</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Frappe dynamique (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Maintien/appui (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Bascule (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Touches de la couche Fn</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Touches personnalisées</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>Cliquez sur une touche pour la colorer, ou faites glisser sur plusieurs</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>Mes créations</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Couleur :</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Pipette :</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Couleur aléatoire :</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>Écrire dans :</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>Img 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>Img 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>Img 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>Img 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>Img 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Lire depuis :</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>Aucune création. Colorez des touches, puis cliquez sur Enregistrer</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Supprimer cette création ?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>Ma création %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>Réglages des macros</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>Relâcher</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Appui</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Délai</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Insérer</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Délai fixe (ms) :</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>Nouvelle macro</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>Cliquez sur « Enregistrer » et appuyez sur des touches, ou sur « Insérer » pour ajouter un événement</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>Choisissez une macro à gauche</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Utilisé</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>octets</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Réglages de course</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Zones mortes</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Type de switch</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Stabilisation</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Test simulé</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Touches sélectionnées</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Switch mécanique</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Switch Kaihua</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Magnétique extra-plat</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Switch Baize</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Personnalisé</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Course des touches (globale)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>Touche système</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>Frappe dynamique</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>Maintien/appui</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>Bascule</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Réglages des macros</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Test de course</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Test des touches</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Saisie</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>Appuyez sur une touche. En sans-fil, aucune donnée de course en direct.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Aperçu,Nom,Gérer</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Guide de calibration de la course</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Enfoncez doucement chaque touche à fond, l’une après l’autre, et maintenez-la au moins 1 seconde jusqu’à ce qu’elle devienne orange (touche calibrée). N’en oubliez aucune ; vous pouvez recommencer une touche. En sans-fil, le nombre de touches calibrées n’est pas indiqué. Ne débranchez pas le câble pendant la calibration.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Lancer la calibration</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>Calibrer la course</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Enfoncez doucement chaque touche à fond, l’une après l’autre, et maintenez-la au moins 1 seconde jusqu’à ce qu’elle devienne orange (touche calibrée). N’en oubliez aucune ; vous pouvez recommencer une touche. En sans-fil, le nombre de touches calibrées n’est pas indiqué. Ne débranchez pas le câble pendant la calibration.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>Terminer la calibration</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Insérer</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Délai</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Droit</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Milieu</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Choisissez le type d’événement</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Touche du clavier</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Appuyez sur une touche…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Bouton de souris</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Milieu</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Droit</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Position de la souris</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Appui (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>Enfoncée au-delà de l’activation</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Enfoncée à fond</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Quitte le fond</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>De retour en haut</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Aucune fonction</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Désactivé</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>Enfoncée au-delà de l’activation</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Enfoncée à fond</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Quitte le fond</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>De retour en haut</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Touche unique</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Bande lumineuse</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Effet :</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Fixe</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Respiration</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Flux</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Néon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Vague</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Couleur :</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Luminosité :</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Vitesse :</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>Couleur %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Sélecteur de couleur</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Luminosité</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>Mode d’éclairage</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>Éteindre</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Mode de lecture :</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Fixe</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Respiration</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Météore</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Ondulation</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Aurore</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Gouttes de pluie</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Convergence</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Flux</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Néon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Vague</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Ciel étoilé</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Ombre</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Onde sinusoïdale</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Fontaine de couleurs</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Floraison</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>Coup double</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Chemin sinueux</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Bruine</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>Neige sans trace</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Couches</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Clair-obscur</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Rythme musical</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>En Z</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Spirale</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>Vers l’intérieur</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Vers l’extérieur</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>Vers la droite</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>Vers la gauche</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Image 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Image 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Image 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Image 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Image 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Sens horaire</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Sens antihoraire</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Aucun</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Vitesse</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Appui (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Relâchement (mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Sélectionnez une touche ci-dessus et donnez-lui deux fonctions : appui bref et appui long (combinaisons possibles)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Appui</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Maintien</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>Régler le délai de déclenchement du « maintien »</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>Nouvelle macro</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>Course RT (globale)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>Molette de valeurs</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Associe 2 touches (à choisir ci-dessus) : si les deux sont enfoncées, la dernière enfoncée l’emporte</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>Choisir la touche A</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>Choisir la touche B</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Sélectionnez une touche ci-dessus et réglez sa fonction dans l’un des deux modes : répétition ou maintien</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Répétition</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Appui long</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Aucune fonction</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (stabilisation RT)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>RT Stab renforce la stabilité en bas de course. Un pourcentage plus élevé est plus stable et ajoute un peu de latence.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0 % (désactivé)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Mode anti-appui accidentel</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Désactivé)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>Évite les déclenchements dus aux vibrations du bureau en réglage extrême et compense une tolérance de 0,1 mm des switchs. Activé, l’algorithme en bas de course compense l’écart et stabilise le clavier.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Désactivé</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Type de switch</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>Après un changement de switchs, choisissez ci-dessous le type correspondant et cliquez sur les touches concernées</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>Interrupteur</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Régler l’appui et le relâchement séparément :</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Rapid Trigger continu (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>Activé : le Rapid Trigger ne s’arrête qu’au relâchement complet.
+Désactivé : le Rapid Trigger s’arrête quand la touche repasse au-dessus du point d’activation</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Régler le réappui et la réinitialisation séparément</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Course pour redéclencher (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Course pour réinitialiser (mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Appliquer</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Test de course</translation>
     </message>
 </context>
 </TS>

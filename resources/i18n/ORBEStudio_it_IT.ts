@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>Tonalità</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>Zone morte</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Zone morte dei tasti</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>La distanza tra il fondo e la risalita si chiama «zona morta». Riduce le interruzioni dello switch magnetico dovute a interferenze. Regolala come preferisci: in questo tratto non si attiva nulla.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Imposta</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Zona morta superiore</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Zona morta inferiore</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>Collega o scollega dispositivi virtuali:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>Premi tutti i tasti uno dopo l’altro</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Frequenza di polling</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G: spegni luce</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Bluetooth: spegni luce</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>Sospensione profonda 2.4G</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Sospensione profonda Bluetooth</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Livello antirimbalzo</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>Selettore colore</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>Tieni premuto e trascina in un punto qualsiasi dello schermo per prelevare un colore</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Fine</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>Catalogo dei comandi</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>Combinazione di tasti</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Caratteri di base</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Tasti estesi</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Impostazioni macro</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Modalità di riproduzione:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Ripetizioni</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Automatico</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Pressione</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>Funzioni di sistema</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Funzioni del mouse</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>Imposta funzione:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Sinistro</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Destro</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Centrale</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Scorri a sin.</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Scorri a des.</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Scorri su</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Scorri giù</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Scorri su</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Scorri giù</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Tasti personalizzati</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>Macro</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Macro non registrata</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Caratteri di base</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Caratteri estesi</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Combinazione di tasti:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>Conferma</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Combinazione di tasti</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>Tasti avanzati</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>Altre opzioni</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Livello Fn</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>Personalizzato / livello Fn</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*Fai prima clic su un tasto in alto, poi scegli nella finestra una combinazione, una macro, una funzione di sistema o del mouse</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*Fai clic destro su un tasto per cancellarne l’impostazione, disattivarlo o riattivarlo</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Corsa dinamica (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Tieni/tocca (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Interruttore (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Tasti del livello Fn</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Tasti personalizzati</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>Clicca su un tasto per colorarlo o trascina su più tasti</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>I miei lavori</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Colore:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Selettore colore:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Colore casuale:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>Scrivi nel livello:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>Imm. 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>Imm. 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>Imm. 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>Imm. 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>Imm. 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Leggi dal livello:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>Ancora nessun lavoro. Colora alcuni tasti e premi Salva</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Eliminare questo lavoro?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>Il mio lavoro %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>Impostazioni macro</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>Rilascio</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Pressione</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Ritardo</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Avvia registrazione</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Inserisci</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Svuota</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Ritardo fisso (ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>Nuova macro</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Ferma registrazione</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>Fai clic su “Avvia registrazione” e premi i tasti, oppure su “Inserisci” per aggiungere un evento</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>Scegli una macro a sinistra</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Usati</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>byte</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Corsa dei tasti</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Zone morte</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Tipo di switch</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Stabilizzazione</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Test simulato</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Tasti selezionati</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Switch meccanico</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Switch Kaihua</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Magnetico a basso profilo</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Switch Baize</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Personalizzato</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Corsa tasti (globale)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>Esci</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>Tasto di sistema</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>Corsa dinamica</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>Tieni/tocca</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>Interruttore</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Impostazioni macro</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Test corsa</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Test tasti</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Input</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>Premi un tasto. In wireless non ci sono dati di corsa in tempo reale.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Anteprima,Nome,Gestisci</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Guida alla calibrazione della corsa</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Premi delicatamente ogni tasto fino in fondo, uno dopo l’altro, e tienilo premuto per almeno 1 secondo finché diventa arancione (tasto calibrato). Non saltarne nessuno; puoi premere di nuovo un tasto. In wireless il numero di tasti calibrati non viene mostrato. Non scollegare il cavo durante la calibrazione.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Avvia calibrazione</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>Calibrazione corsa</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Premi delicatamente ogni tasto fino in fondo, uno dopo l’altro, e tienilo premuto per almeno 1 secondo finché diventa arancione (tasto calibrato). Non saltarne nessuno; puoi premere di nuovo un tasto. In wireless il numero di tasti calibrati non viene mostrato. Non scollegare il cavo durante la calibrazione.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>Termina calibrazione</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Elimina</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Inserisci</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Ritardo</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Sinistro</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Destro</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Centrale</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Scegli il tipo di evento macro</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Tasto</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Premi un tasto…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Pulsante del mouse</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Sinistro</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Centrale</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Destro</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Posizione del mouse</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Pressione (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Salva</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>Premuto oltre l’attuazione</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>A fine corsa</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Staccato dal fondo</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Di nuovo in cima</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Nessuna funzione</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Attivo</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Spento</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>Premuto oltre l’attuazione</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>A fine corsa</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Staccato dal fondo</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Di nuovo in cima</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>Predefiniti</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Tasto singolo</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Striscia luminosa</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Effetto:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Spento</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Fisso</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Respiro</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Corrente</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Onda di luce</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Colore:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Luminosità:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Velocità:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>Colore %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Selettore colore</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Luminosità</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>Modalità luce</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>Spegni luci</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Riproduzione:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Fisso</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Respiro</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Meteora</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Increspatura</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Aurora</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Gocce di pioggia</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Convergenza</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Corrente</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Onda di luce</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Cielo stellato</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Ombra</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Onda sinusoidale</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Fontana di colori</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Fioritura</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>Due piccioni</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Sentiero tortuoso</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Pioggerella</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>Neve senza tracce</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Strati</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Luci e ombre</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Ritmo musicale</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Sinistra</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Destra</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Su</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Giù</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>A Z</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Spirale</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>Verso l’interno</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Verso l’esterno</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>Verso destra</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>Verso sinistra</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Immagine 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Immagine 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Immagine 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Immagine 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Immagine 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Senso orario</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Senso antiorario</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Nessuno</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Velocità</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Pressione (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Rilascio (mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Seleziona un tasto in alto e assegnagli due funzioni, una per il tocco e una per la pressione lunga (combinazioni supportate)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Tocca</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Tieni</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>Regola il tempo per attivare “Tieni”</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>Nuova macro</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>Corsa RT (globale)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>Rotella dei valori</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Abbina 2 tasti (scegli ciascuno in alto): se premuti insieme vale l’ultimo premuto</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>Scegli tasto A</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>Scegli tasto B</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Seleziona un tasto in alto e imposta la funzione in una di due modalità: ripetizione o pressione continua</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Pressione lunga</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Nessuna funzione</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (stabilizzazione RT)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>Con RT Stab attivo l’algoritmo rende più stabile il fondo corsa. Una percentuale più alta è più stabile ma aggiunge un po’ di latenza.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0% (disattivo)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Modalità anti-tocco accidentale</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Disattivo)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>Evita attivazioni dovute alle vibrazioni del tavolo con impostazioni estreme e compensa tolleranze dello switch di 0,1 mm. Se attivo, l’algoritmo a fondo corsa compensa la differenza e rende la tastiera più stabile.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Attivo</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Disattivo</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Tipo di switch</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>Dopo aver cambiato gli switch, scegli in basso il tipo corrispondente e fai clic sui tasti che lo montano</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>Interruttore</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Imposta pressione e rilascio separatamente:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Rapid Trigger continuo (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>Attivo: il Rapid Trigger termina solo al rilascio completo del tasto.
+Disattivo: il Rapid Trigger termina quando il tasto risale oltre il punto di attuazione</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Imposta ripressione e reset separatamente</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Corsa per riattivare il tasto (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Corsa di reset al rilascio (mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Imposta</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Test corsa</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>色相</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>デッドゾーン設定</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>キーのデッドゾーン設定</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>底打ちからキーが上がり始めるまでの距離を「デッドゾーン」と呼びます。周囲の干渉で磁気スイッチの入力が途切れるのを減らします。範囲は自由に設定でき、この区間では入力が発生しません。</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>上部デッドゾーン</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>下部デッドゾーン</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>仮想デバイスの接続と取り外し：</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>すべてのキーを順に押す</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>ポーリングレート</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G バックライト消灯</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Bluetooth バックライト消灯</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>2.4G ディープスリープ時間</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>分</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Bluetooth ディープスリープ時間</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>デバウンスレベル</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>カラーピッカー</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>押したまま画面上の好きな場所へドラッグして色を取得</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>コマンド一覧</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>キーの組み合わせ</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>基本文字</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>拡張文字（キー）</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>マクロ設定</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>再生方法:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>繰り返し回数</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>押下</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>システム機能</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>マウス機能</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>設定する機能：</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>左ボタン</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>右ボタン</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>中央ボタン</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>左スクロール</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>右スクロール</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>上スクロール</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>下スクロール</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>下へスクロール</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>カスタムキー</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>マクロ</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>未記録のマクロ</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>基本文字</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>拡張文字</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>キーの組み合わせ：</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>キーの組み合わせ</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>高度なキー</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>その他の設定</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Fn レイヤー設定</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>カスタム/Fn レイヤー設定</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*まず上のキーをクリックし、表示されるダイアログでキーの組み合わせ、マクロ、システム機能、マウス機能を選んで割り当てます</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*キーを右クリックすると、設定のクリア、無効化、無効化の解除ができます</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>ダイナミックキーストローク (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>ホールド/タップ (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>トグル (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Fn レイヤーのキー設定</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>カスタムキー</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>キーをクリックして色を塗り、ドラッグで複数のキーをまとめて塗れます</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>マイ作品</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>色：</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>カラーピッカー：</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>ランダムカラー：</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>設定をクリア</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>書き込みレイヤー：</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>図 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>図 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>図 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>図 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>図 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>読み込みレイヤー：</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>作品名：</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>作品はまだありません。キーに色を塗って「保存」を押してください</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>確認</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>この作品を削除しますか？</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>マイ作品 %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>マクロ設定</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>離す</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>押下</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>記録を開始</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>挿入</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>すべて消去</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>固定遅延を設定 (ms)：</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>新規マクロ</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>記録を停止</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>「記録を開始」を押してキーを入力するか、「挿入」でイベントを追加します</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>左側でマクロを選択してください</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>バイト</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>トラベル設定</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>デッドゾーン設定</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>スイッチの種類</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>安定化アルゴリズム</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>シミュレーションテスト</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>選択中のキー数</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>メカニカルスイッチ</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Kaihua スイッチ</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>ロープロファイル磁気スイッチ</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst 磁気スイッチ</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Baize スイッチ</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>カスタム</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>キートラベル設定（全体）</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>終了</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>システムキー</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>ダイナミックキーストローク</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>ホールド/タップ</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>トグル</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>マクロ設定</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>トラベルテスト</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>キーテスト</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>入力値</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>いずれかのキーを押してください。ワイヤレス接続ではリアルタイムのストロークは届きません。</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>プレビュー,作品名,管理</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>キャリブレーションガイド</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>キーを 1 つずつ軽く底まで押し、オレンジ色に変わる（そのキーの校正完了）まで 1 秒以上そのまま保持してください。押し忘れのないようにしてください。同じキーを何度押しても構いません。ワイヤレス接続では校正済みキー数は表示されません。校正中はケーブルを抜かないでください。</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>校正を開始</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>キャリブレーション</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>キーを 1 つずつ軽く底まで押し、オレンジ色に変わる（そのキーの校正完了）まで 1 秒以上そのまま保持してください。押し忘れのないようにしてください。同じキーを何度押しても構いません。ワイヤレス接続では校正済みキー数は表示されません。校正中はケーブルを抜かないでください。</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>校正を完了</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>挿入</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>左ボタン</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>右ボタン</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>中央ボタン</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>追加するマクロイベントの種類を選択</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>キーボードのキー</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>キーを押してください…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>マウスボタン</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>左ボタン</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>中央ボタン</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>右ボタン</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>マウス位置</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>押下 (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>押下で作動</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>底打ち</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>底から離れる</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>上端に戻る</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>機能未設定</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>オフ</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>押下で作動</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>底打ち</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>底から離れる</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>上端に戻る</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>単一キー</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>ライトストリップ</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>効果：</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>常時点灯</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>ブリージング</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>ストリーム</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>ネオン</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>光の波</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>カラー：</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>明るさ：</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>速度：</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>カラー%1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>カラーピッカー</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>明るさ</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>ライティングモード</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>消灯</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>再生モード：</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>常時点灯</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>ブリージング</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>流星</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>波紋</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>オーロラ</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>雨粒</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>集束</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>ストリーム</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>ネオン</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>光の波</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>星空</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>影追い</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>サイン波</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>カラーの泉</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>百花繚乱</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>一石二鳥</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>つづら折り</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>そよ風と小雨</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>雪上無痕</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>重なり</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>光と影</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>音楽リズム</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Z 字形</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>渦巻き</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>内側へ</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>外側へ</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>右へ</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>左へ</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>図柄 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>図柄 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>図柄 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>図柄 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>図柄 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>時計回り</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>反時計回り</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>なし</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>速度</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>押下 (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>リリース (mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>上のキーを選択し、タップと長押しの 2 つの操作にそれぞれ機能を割り当てます（キーの組み合わせ対応）</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>タップ</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>「ホールド」が作動するまでの時間を調整</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>新規マクロ</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>RT トラベル設定（全体）</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>値ホイール</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>選択した 2 つのキー（上でそれぞれ選択）を連動させ、同時に押されたときは最後に押したキーを優先します</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>A キーを選択</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>B キーを選択</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>上のキーを選択し、連打と長押しの 2 つの作動モードから選んで機能を設定します</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>連打</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>長押し</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>機能未設定</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab（RT 安定化）</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>RT Stab をオンにすると、スイッチ底部の安定性を高めます。割合が大きいほど安定しますが、遅延も少し増えます。</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0%（オフ）</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>誤入力防止モード</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(オフ)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>極端な設定で机の振動により誤入力したり、スイッチの公差で 0.1 mm の誤差が出たりするのを防ぎます。オンにすると底部のアルゴリズムが差を補い、安定性が高まります。</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>オフ</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>スイッチの種類</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>スイッチを交換したら、下で該当するスイッチを選び、取り付けたキーをクリックして区別してください</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst 磁気スイッチ</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>スイッチ</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>押下とリリースの作動点を個別に設定：</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>連続ラピッドトリガー（RT）</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>有効：キーを完全に離すまでラピッドトリガーが続きます。
+無効：キーがアクチュエーションポイントより上に戻るとラピッドトリガーが終わります</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>再入力とリセットの距離を個別に設定</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>再入力に必要な距離 (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>リセットに必要な距離 (mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>設定</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>トラベルテスト</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>색조</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>데드존 설정</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>키 데드존 설정</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>바닥을 친 뒤 다시 올라오기 전까지의 거리를 &quot;데드존&quot;이라고 합니다. 데드존은 주변 간섭으로 자석축 입력이 끊기는 현상을 줄여 줍니다. 필요에 맞게 설정할 수 있으며, 이 구간에서는 입력이 발생하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>상단 데드존</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>하단 데드존</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>가상 장치 연결 또는 분리:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>모든 키를 차례로 누르기</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>폴링 레이트</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G 백라이트 끄기</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>블루투스 백라이트 끄기</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>2.4G 깊은 절전 시간</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>분</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>블루투스 깊은 절전 시간</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>디바운스 단계</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1분</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>색상 선택기</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>누른 채 화면의 원하는 곳으로 끌어 색을 가져오세요</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>완료</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>명령 목록</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>조합 키</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>기본 문자</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>확장 문자(키)</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>매크로 설정</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>재생 방식:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>반복 횟수</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>자동</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>누름</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>시스템 기능</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>마우스 기능</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>설정할 기능:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>가운데</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>앞으로</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>왼쪽 스크롤</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>오른쪽 스크롤</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>위로 스크롤</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>아래로 스크롤</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>위로 스크롤</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>아래로 스크롤</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>사용자 지정 키</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>매크로</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>녹화되지 않은 매크로</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>기본 문자</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>확장 문자</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>조합 키:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>조합 키</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>사용자 지정</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>고급 키</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>기타 설정</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Fn 레이어 설정</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>사용자 지정/Fn 레이어 설정</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*먼저 위의 키를 클릭한 다음 대화 상자에서 조합 키, 매크로, 시스템 기능, 마우스 기능을 골라 다시 지정하세요</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*키를 마우스 오른쪽 버튼으로 클릭하면 설정 지우기, 비활성화, 비활성화 해제를 할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>다이내믹 키스트로크(DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>홀드/탭(MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>토글(TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Fn 레이어 키 설정</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>사용자 지정 키</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>키를 클릭해 색을 칠하고, 드래그해 여러 키를 한 번에 칠하세요</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>내 작품</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>색상:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>색상 선택기:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>무작위 색상:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>설정 지우기</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>쓸 레이어:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>그림 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>그림 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>그림 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>그림 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>그림 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>읽을 레이어:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>작품 이름:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>업데이트</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>아직 작품이 없습니다. 키를 칠한 뒤 &apos;저장&apos;을 누르세요</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>알림</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>이 작품을 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>내 작품 %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>매크로 설정</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>뗌</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>누름</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>지연</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>녹화 시작</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>삽입</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>모두 지우기</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>고정 지연 설정(ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>새 매크로</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>녹화 중지</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>&apos;녹화 시작&apos;을 누르고 키를 입력하거나 &apos;삽입&apos;으로 이벤트를 추가하세요</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>왼쪽에서 매크로를 선택하세요</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>사용</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>바이트</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>트래블 설정</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>데드존 설정</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>스위치 종류</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>안정화 알고리즘</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>시뮬레이션 테스트</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>선택한 키 수</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>기계식 스위치</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Kaihua 스위치</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>로우 프로파일 자석축</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst 자석축</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Baize 스위치</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>사용자 지정</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>키 트래블 설정(전체)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>프로그램 종료</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>시스템 키</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>다이내믹 키스트로크</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>홀드/탭</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>토글</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>매크로 설정</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>트래블 테스트</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>키 테스트</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>입력값</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>아무 키나 누르세요. 무선 연결에서는 실시간 키 트래블 데이터가 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>미리보기,작품 이름,관리</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>키 트래블 보정 안내</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>모든 키를 차례로 끝까지 가볍게 누른 뒤 주황색으로 바뀔 때까지(해당 키 보정 완료) 1초 이상 유지하세요. 빠뜨리지 마세요. 다시 눌러도 됩니다. 무선에서는 보정된 키 개수가 표시되지 않습니다. 보정 중에는 케이블을 뽑지 마세요.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>보정 시작</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>키 트래블 보정</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>모든 키를 차례로 끝까지 가볍게 누른 뒤 주황색으로 바뀔 때까지(해당 키 보정 완료) 1초 이상 유지하세요. 빠뜨리지 마세요. 다시 눌러도 됩니다. 무선에서는 보정된 키 개수가 표시되지 않습니다. 보정 중에는 케이블을 뽑지 마세요.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>보정 완료</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>이름 변경</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>삭제</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>삽입</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>지연</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>가운데</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>추가할 매크로 이벤트 종류를 선택하세요</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>키보드 키</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>키를 누르세요…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>마우스 버튼</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>가운데</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>마우스 위치</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>누름(mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>저장</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>눌러서 입력</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>끝까지 누름</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>바닥에서 뗌</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>맨 위로 돌아옴</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>기능 없음</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>켜짐</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>끄기</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>눌러서 입력</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>끝까지 누름</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>바닥에서 뗌</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>맨 위로 돌아옴</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>사용자 지정</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>단일 키</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>라이트 스트립</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>효과:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>끄기</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>항상 켜짐</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>브리딩</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>스트림</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>네온</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>빛 물결</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>색상:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>밝기:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>속도:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>색상 %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>색상 선택기</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>밝기</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>조명 모드</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>조명 끄기</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>재생 모드:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>항상 켜짐</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>브리딩</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>유성</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>물결</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>오로라</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>빗방울</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>집중</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>스트림</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>네온</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>빛 물결</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>별 무리</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>그림자</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>사인파</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>컬러 분수</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>만개</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>일석이조</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>굽이길</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>가랑비</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>눈길</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>겹겹이</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>빛과 그림자</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>음악 리듬</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>사용자 지정</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>아래</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Z자형</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>나선형</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>안쪽으로</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>바깥으로</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>오른쪽으로</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>왼쪽으로</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>그림 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>그림 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>그림 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>그림 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>그림 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>시계 방향</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>반시계 방향</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>없음</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>속도</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>누름(mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>뗌(mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>위에서 키를 선택해 탭과 길게 누르기에 각각 기능을 하나씩 지정합니다(조합 키 지원)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>탭</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>&quot;홀드&quot;가 작동하기까지의 시간 조정</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>새 매크로</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>RT 트래블 설정(전체)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>값 휠</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>선택한 키 2개(위에서 각각 선택)를 묶습니다. 두 키를 동시에 누르면 마지막에 누른 키가 우선합니다</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>A 키 선택</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>B 키 선택</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>위에서 키를 선택하고 연타와 길게 누르기 두 가지 방식 중에서 골라 기능을 설정합니다</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>연타</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>길게 누르기</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>기능 없음</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab(RT 안정화)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>RT Stab을 켜면 스위치 바닥 구간의 안정성이 높아집니다. 비율이 높을수록 더 안정적이지만 지연도 조금 늘어납니다.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0%(끔)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>오입력 방지 모드</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(꺼짐)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>극한 설정에서 책상 흔들림으로 인한 오입력이나 스위치 공차로 생길 수 있는 0.1 mm 오차를 막습니다. 켜면 바닥 구간 알고리즘이 오차를 보정해 안정성을 높입니다.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>켜짐</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>꺼짐</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>스위치 종류</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>스위치를 교체한 뒤 아래에서 해당 스위치를 고르고 장착한 키를 클릭해 구분하세요</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst 자석축</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>스위치</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>누름/뗌 입력 지점 따로 설정:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>연속 래피드 트리거(RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>켜기: 키를 완전히 뗄 때까지 래피드 트리거가 유지됩니다.
+끄기: 키가 입력 지점 위로 올라오면 래피드 트리거가 끝납니다</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>다시 누름과 리셋 거리를 따로 설정</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>다시 누를 때 입력되는 거리(mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>뗄 때 리셋되는 거리(mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>설정</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>트래블 테스트</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>Оттенок</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>Мёртвые зоны</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Мёртвые зоны клавиш</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>Расстояние от упора до начала подъёма называют «мёртвой зоной». Она уменьшает пропуски магнитного переключателя из-за помех. Настройте её под себя: в пределах этой зоны клавиша не срабатывает.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Применить</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Верхняя мёртвая зона</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Нижняя мёртвая зона</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>Подключить или отключить виртуальные устройства:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>Нажимать все клавиши по очереди</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Частота опроса</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>Гашение подсветки 2.4G</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Гашение подсветки Bluetooth</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>Глубокий сон 2.4G</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>мин</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Глубокий сон Bluetooth</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Уровень антидребезга</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 мин</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>Палитра</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>Удерживайте и перетащите в любую точку экрана, чтобы взять цвет</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Готово</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>Каталог команд</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>Комбинация клавиш</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Основные символы</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Дополнительные клавиши</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Макросы</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Режим воспроизведения:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Число повторов</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Авто</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Нажатие</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>Системные функции</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Функции мыши</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>Назначить функцию:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Левая</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Правая</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Средняя</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>Вперёд</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Прокрутка влево</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Прокрутка вправо</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Прокрутка вверх</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Прокрутка вниз</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Прокрутка вверх</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Прокрутка вниз</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Свои клавиши</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>Макрос</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Макрос не записан</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Основные символы</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Дополнительные символы</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Комбинация клавиш:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Комбинация клавиш</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>Своё</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>Особые клавиши</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>Прочее</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Слой Fn</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>Свои клавиши / слой Fn</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*Сначала щёлкните клавишу выше, затем выберите в окне комбинацию, макрос, системную функцию или функцию мыши</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*Щёлкните клавишу правой кнопкой, чтобы сбросить её настройку, отключить или снова включить её</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Динамическое нажатие (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Удержание/нажатие (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Переключатель (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Клавиши слоя Fn</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Свои клавиши</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>Щёлкните по клавише, чтобы закрасить её, или протяните рамку по нескольким</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>Мои работы</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Цвет:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Пипетка:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Случайный цвет:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>Записать в слой:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>Рис. 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>Рис. 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>Рис. 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>Рис. 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>Рис. 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Прочитать слой:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Название:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>Работ пока нет. Раскрасьте клавиши и нажмите «Сохранить»</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Внимание</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Удалить эту работу?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>Моя работа %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>Макросы</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>Отпускание</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Нажатие</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Начать запись</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Одинаковая пауза (мс):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>Новый макрос</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>Нажмите «Начать запись» и вводите клавиши или добавьте событие кнопкой «Вставить»</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>Выберите макрос слева</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Занято</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>байт</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Ход клавиш</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Мёртвые зоны</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Тип переключателей</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Стабилизация</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Проверка</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Выбрано клавиш</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Механический</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Kaihua</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Низкопрофильный магнитный</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Baize</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Своё</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Ход клавиш (все)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>Выход</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>Системная клавиша</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>Динамическое нажатие</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>Удержание/нажатие</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>Переключатель</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Макросы</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Проверка хода</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Проверка клавиш</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Ввод</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>Нажмите любую клавишу. По беспроводной связи данные о ходе не передаются.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Просмотр,Название,Действие</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Как откалибровать ход клавиш</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Поочерёдно плавно нажмите каждую клавишу до упора и удерживайте не менее 1 секунды, пока она не станет оранжевой (клавиша откалибрована). Не пропускайте клавиши; нажимать можно повторно. При беспроводном подключении число откалиброванных клавиш не показывается. Не отключайте кабель во время калибровки.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Начать калибровку</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>Калибровка хода</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Поочерёдно плавно нажмите каждую клавишу до упора и удерживайте не менее 1 секунды, пока она не станет оранжевой (клавиша откалибрована). Не пропускайте клавиши; нажимать можно повторно. При беспроводном подключении число откалиброванных клавиш не показывается. Не отключайте кабель во время калибровки.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>Завершить калибровку</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Переименовать</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Удалить</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Левая</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Правая</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Средняя</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Назад</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Выберите тип события макроса</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Клавиша</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Нажмите клавишу…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Кнопка мыши</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Левая</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Средняя</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Правая</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Положение мыши</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Нажатие (мм)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Сохранить</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>Срабатывание при нажатии</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Нажата до упора</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Отпускание от упора</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Возврат вверх</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Функция не задана</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Выкл.</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>Срабатывание при нажатии</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Нажата до упора</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Отпускание от упора</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Возврат вверх</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Своё</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Одна клавиша</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Световая полоса</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Эффект:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Постоянный</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Дыхание</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Поток</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Неон</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Волна</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Цвет:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Яркость:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Скорость:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>Цвет %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Палитра</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Яркость</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>Режим подсветки</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Режим показа:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Постоянный</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Дыхание</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Метеор</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Рябь</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Сияние</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Капли</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Схождение</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Поток</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Неон</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Волна</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Звёзды</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Тень</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Синусоида</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Фонтан красок</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Цветение</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>Два зайца</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Извилистый путь</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Морось</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>Снег без следов</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Слои</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Свет и тень</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Музыка</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Своё</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Влево</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Вправо</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Зигзаг</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Спираль</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>Внутрь</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Наружу</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>Вправо</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>Влево</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Рисунок 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Рисунок 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Рисунок 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Рисунок 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Рисунок 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>По часовой</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Против часовой</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Нет</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Скорость</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Нажатие (мм)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Отпускание (мм)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Выберите клавишу выше и задайте ей две функции: на короткое и на долгое нажатие (можно комбинации)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Нажатие</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Удержание</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>Время до срабатывания «удержания»</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>Новый макрос</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>Ход RT (все клавиши)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>Колесо значений</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Связывает 2 клавиши (выберите каждую выше): если нажаты обе, действует нажатая последней</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>Выбрать клавишу A</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>Выбрать клавишу B</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Выберите клавишу выше и задайте функцию в одном из двух режимов: повтор или удержание</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Повтор</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Удержание</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Функция не задана</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (стабилизация RT)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>RT Stab повышает стабильность в нижней части хода. Чем больше процент, тем стабильнее, но задержка немного растёт.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0% (выкл.)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Защита от ложных нажатий</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Выкл.)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>Защищает от срабатываний из-за вибрации стола на предельных настройках и от допусков переключателей до 0,1 мм. При включении алгоритм внизу хода компенсирует разницу и делает клавиатуру стабильнее.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Выкл.</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Тип переключателей</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>После замены переключателей выберите ниже нужный тип и щёлкните клавиши, где он установлен</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>Переключатель</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Отдельный ход нажатия и отпускания:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Непрерывный Rapid Trigger (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>Вкл.: Rapid Trigger завершается только при полном отпускании клавиши.
+Выкл.: Rapid Trigger завершается, когда клавиша поднимается выше точки срабатывания</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Отдельный ход повторного нажатия и сброса</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Ход до повторного срабатывания (мм)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Ход до сброса при отпускании (мм)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Применить</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Проверка хода</translation>
     </message>
 </context>
 </TS>

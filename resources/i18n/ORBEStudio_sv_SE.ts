@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sv_SE" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>Nyans</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>Dödzoner</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Tangenternas dödzoner</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>Avståndet från botten tills tangenten lyfts kallas ”dödzon”. Den minskar avbrott i magnetbrytaren på grund av störningar. Ställ in den efter behov; inom den utlöses ingenting.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Ställ in</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Övre dödzon</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Nedre dödzon</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>Anslut eller koppla från virtuella enheter:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>Tryck på alla tangenter i tur och ordning</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Pollingfrekvens</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G: släck ljuset</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Bluetooth: släck ljuset</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>Djupvila 2.4G</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Djupvila Bluetooth</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Debounce-nivå</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>Färgväljare</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>Håll ned och dra till valfri plats på skärmen för att välja en färg</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Klar</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>Kommandokatalog</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>Tangentkombination</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Grundtecken</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Extratangenter</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makroinställningar</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Uppspelningsläge:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Antal upprepningar</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Tryck</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>Systemfunktioner</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Musfunktioner</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>Ange funktion:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Vänster</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Höger</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Mitten</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>Framåt</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Bakåt</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Rulla vänster</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Rulla höger</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Rulla upp</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Rulla ned</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Rulla upp</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Rulla ned</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Anpassade tangenter</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>Makro</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Makrot är inte inspelat</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Grundtecken</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Extratecken</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Tangentkombination:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>Bekräfta</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Tangentkombination</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>Anpassad</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>Avancerat</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>Övrigt</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Fn-lager</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>Anpassat / Fn-lager</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*Klicka först på en tangent ovan och välj sedan en kombination, ett makro, en system- eller musfunktion i dialogrutan</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*Högerklicka på en tangent för att rensa inställningen, inaktivera den eller aktivera den igen</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Dynamiskt tryck (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Håll/tryck (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Växla (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Tangenter i Fn-lagret</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Anpassade tangenter</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>Klicka på en tangent för att färga den, eller dra över flera</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>Mina verk</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Färg:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Färgväljare:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Slumpfärg:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Rensa</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>Skriv till lager:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>Bild 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>Bild 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>Bild 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>Bild 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>Bild 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Läs från lager:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Namn:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Uppdatera</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Spara</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>Inga verk än. Färga några tangenter och tryck på Spara</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Meddelande</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Vill du ta bort det här verket?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>Mitt verk %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>Makroinställningar</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>Släpp</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Tryck</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Paus</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Spela in</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Infoga</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Ta bort</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Rensa</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Fast fördröjning (ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Spara</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>Nytt makro</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Stoppa</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>Klicka på ”Spela in” och tryck på tangenter, eller på ”Infoga” för att lägga till en händelse</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>Välj ett makro till vänster</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Använt</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>byte</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Tangentväg</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Dödzoner</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Brytartyp</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Stabilisering</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Valda tangenter</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Mekanisk brytare</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Kaihua-brytare</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Låg magnetbrytare</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Baize-brytare</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Anpassad</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Tangentväg (globalt)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>Avsluta</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>Systemtangent</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>Dynamiskt tryck</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>Håll/tryck</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>Växla</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makroinställningar</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Vägtest</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Tangenttest</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Inmatning</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>Tryck på en tangent. Trådlöst finns ingen slaglängd i realtid.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>Ta bort</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Förhandsvisning,Namn,Hantera</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Guide för kalibrering</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Tryck ner varje tangent försiktigt i botten, en i taget, och håll den i minst 1 sekund tills den blir orange (tangenten är kalibrerad). Missa ingen; tangenter kan tryckas igen. Trådlöst visas inte antalet kalibrerade tangenter. Dra inte ur kabeln under kalibreringen.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Starta kalibrering</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>Kalibrera</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Tryck ner varje tangent försiktigt i botten, en i taget, och håll den i minst 1 sekund tills den blir orange (tangenten är kalibrerad). Missa ingen; tangenter kan tryckas igen. Trådlöst visas inte antalet kalibrerade tangenter. Dra inte ur kabeln under kalibreringen.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>Slutför kalibrering</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Byt namn</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Ta bort</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Infoga</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Ta bort</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Paus</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Vänster</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Höger</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Mitten</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Tillbaka</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Välj typ av makrohändelse</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Tangent</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Tryck på en tangent …</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Musknapp</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Vänster</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Mitten</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Höger</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Musposition</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Tryck (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Spara</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>Nedtryckt förbi utlösning</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>I botten</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Lyft från botten</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Tillbaka i toppen</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Ingen funktion</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>På</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Av</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>Nedtryckt förbi utlösning</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>I botten</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Lyft från botten</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Tillbaka i toppen</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Anpassad</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Enstaka tangent</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Ljusslinga</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Effekt:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Av</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Fast sken</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Andning</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Ström</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Ljusvåg</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Färg:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Ljusstyrka:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Hastighet:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>Färg %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Färgväljare</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>Ljusläge</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>Släck</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Uppspelningsläge:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Fast sken</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Andning</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Meteor</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Krusning</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Norrsken</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Regndroppar</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Samling</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Ström</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Ljusvåg</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Stjärnhimmel</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Skugga</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Sinusvåg</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Färgfontän</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Blomsterprakt</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>Två flugor</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Slingrande väg</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Duggregn</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>Spårlös snö</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Lager</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Ljus och skugga</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Musikrytm</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Anpassad</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Vänster</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Höger</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Upp</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Ned</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Z-form</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Spiral</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>Inåt</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Utåt</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>Åt höger</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>Åt vänster</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Bild 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Bild 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Bild 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Bild 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Bild 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Medurs</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Moturs</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Ingen</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Hastighet</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Tryck (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Släpp (mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Välj en tangent ovan och ge den två funktioner, en för tryck och en för långt tryck (kombinationer stöds)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Tryck</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Håll</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>Justera tiden innan ”Håll” utlöses</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>Nytt makro</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>RT-väg (globalt)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>Värdehjul</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Kopplar 2 valda tangenter (välj var och en ovan): trycks båda gäller den som trycktes sist</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>Välj tangent A</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>Välj tangent B</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Välj en tangent ovan och ställ in funktionen i ett av två lägen: upprepa eller håll</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Upprepa</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Håll</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Ingen funktion</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (RT-stabilisering)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>RT Stab gör botten av vägen stabilare. En högre procent är stabilare men ger lite mer fördröjning.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0 % (av)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Skydd mot feltryck</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Av)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>Förhindrar feltryck när bordet skakar vid extrema inställningar och jämnar ut brytartoleranser på 0,1 mm. Påslaget kompenserar algoritmen i botten och gör tangentbordet stabilare.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>På</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Av</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Brytartyp</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>Efter byte av brytare, välj rätt brytare nedan och klicka på tangenterna som har den</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>Omkopplare</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Ställ in tryck och släpp separat:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Kontinuerlig Rapid Trigger (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>På: Rapid Trigger slutar först när tangenten släpps helt.
+Av: Rapid Trigger slutar när tangenten stiger över aktiveringspunkten</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Ställ in nytt tryck och återställning separat</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Väg till ny utlösning (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Väg till återställning (mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Ställ in</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Vägtest</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="th_TH" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>เฉดสี</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>ตั้งค่าเดดโซน</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>ตั้งเดดโซนของปุ่ม</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>ระยะจากกดสุดจนก่อนปุ่มยกตัวเรียกว่า “เดดโซน” ช่วยลดอาการสัญญาณขาดของสวิตช์แม่เหล็กจากสิ่งรบกวน ปรับได้ตามต้องการ และในระยะนี้ปุ่มจะไม่ทำงาน</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>ตั้งค่า</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>เดดโซนบน</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>เดดโซนล่าง</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>เสียบหรือถอดอุปกรณ์เสมือน:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>กดทุกปุ่มทีละปุ่ม</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>โพลลิงเรต</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>ปิดไฟเมื่อใช้ 2.4G</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>ปิดไฟเมื่อใช้บลูทูธ</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>เวลาหลับลึก 2.4G</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>นาที</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>เวลาหลับลึกบลูทูธ</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>ระดับ Debounce</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 นาที</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>ตัวเลือกสี</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>กดค้างแล้วลากไปที่ใดก็ได้บนหน้าจอเพื่อเลือกสี</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>เสร็จสิ้น</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>รายการคำสั่ง</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>คีย์ผสม</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>อักขระพื้นฐาน</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>ปุ่มเพิ่มเติม</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>ตั้งค่ามาโคร</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>โหมดการเล่น:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>จำนวนรอบ</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>อัตโนมัติ</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>กด</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>ฟังก์ชันระบบ</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>ฟังก์ชันเมาส์</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>ตั้งฟังก์ชันเป็น:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ตกลง</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>ซ้าย</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>ขวา</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>กลาง</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>ไปหน้า</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>ย้อนกลับ</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>เลื่อนซ้าย</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>เลื่อนขวา</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>เลื่อนขึ้น</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>เลื่อนลง</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>เลื่อนขึ้น</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>เลื่อนลง</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>ปุ่มกำหนดเอง</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>มาโคร</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>ยังไม่ได้บันทึกมาโคร</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>อักขระพื้นฐาน</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>อักขระเพิ่มเติม</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>คีย์ผสม:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>ยืนยัน</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>คีย์ผสม</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>กำหนดเอง</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>ปุ่มขั้นสูง</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>การตั้งค่าอื่น</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>เลเยอร์ Fn</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>กำหนดเอง / เลเยอร์ Fn</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*คลิกเลือกปุ่มด้านบนก่อน แล้วเลือกคีย์ผสม มาโคร ฟังก์ชันระบบ หรือฟังก์ชันเมาส์ในกล่องโต้ตอบเพื่อเปลี่ยนปุ่ม</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*คลิกขวาที่ปุ่มเพื่อล้างการตั้งค่า ปิดใช้งาน หรือเปิดใช้งานอีกครั้ง</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>ไดนามิกคีย์สโตรก (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>ค้าง/แตะ (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>สลับเปิด/ปิด (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>ตั้งค่าปุ่มเลเยอร์ Fn</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>ปุ่มกำหนดเอง</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>คลิกที่ปุ่มเพื่อลงสี หรือลากเพื่อลงสีหลายปุ่ม</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>ผลงานของฉัน</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>สี:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>ตัวเลือกสี:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>สีสุ่ม:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>ล้างการตั้งค่า</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>เขียนลงเลเยอร์:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>ภาพ 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>ภาพ 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>ภาพ 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>ภาพ 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>ภาพ 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>อ่านจากเลเยอร์:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>ชื่อผลงาน:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>อัปเดต</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>บันทึก</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>ยังไม่มีผลงาน ลงสีปุ่มแล้วกด &quot;บันทึก&quot;</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>แจ้งเตือน</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>ต้องการลบผลงานนี้หรือไม่?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>ผลงานของฉัน %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>ตั้งค่ามาโคร</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>ปล่อย</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>กด</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>หน่วง</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>เริ่มบันทึก</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>แทรก</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>ลบ</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>ล้างทั้งหมด</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>ตั้งหน่วงเวลาคงที่ (ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>บันทึก</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>มาโครใหม่</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>หยุดบันทึก</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>คลิก “เริ่มบันทึก” แล้วกดปุ่ม หรือคลิก “แทรก” เพื่อเพิ่มเหตุการณ์</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>เลือกมาโครทางซ้าย</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>ใช้ไป</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>ไบต์</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>ตั้งค่าระยะกด</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>ตั้งค่าเดดโซน</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>ประเภทสวิตช์</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>อัลกอริทึมเสถียรภาพ</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>ทดสอบจำลอง</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>จำนวนปุ่มที่เลือก</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>สวิตช์แมคคานิคัล</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>สวิตช์ Kaihua</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>สวิตช์แม่เหล็ก Low-profile</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>สวิตช์แม่เหล็ก Starburst</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>สวิตช์ Baize</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>กำหนดเอง</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>ระยะกดปุ่ม (ทั้งหมด)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>ออกจากโปรแกรม</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>ปุ่มระบบ</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>ไดนามิกคีย์สโตรก</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>ค้าง/แตะ</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>สลับเปิด/ปิด</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>ตั้งค่ามาโคร</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>ทดสอบระยะกด</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>ทดสอบปุ่ม</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>ค่าที่ป้อน</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>กดปุ่มใดก็ได้ เมื่อเชื่อมต่อไร้สายจะไม่มีข้อมูลระยะกดแบบเรียลไทม์</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>ลบ</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>ภาพตัวอย่าง,ชื่อ,จัดการ</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>คู่มือปรับเทียบระยะกด</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>กดปุ่มแต่ละปุ่มเบา ๆ ให้สุดทีละปุ่ม แล้วค้างไว้อย่างน้อย 1 วินาทีจนปุ่มเปลี่ยนเป็นสีส้ม (ปรับเทียบปุ่มนั้นสำเร็จ) อย่าข้ามปุ่มใด กดซ้ำได้ เมื่อเชื่อมต่อไร้สายจะไม่แสดงจำนวนปุ่มที่ปรับเทียบแล้ว ห้ามถอดสายระหว่างปรับเทียบ</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>เริ่มปรับเทียบ</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>ปรับเทียบระยะกด</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>กดปุ่มแต่ละปุ่มเบา ๆ ให้สุดทีละปุ่ม แล้วค้างไว้อย่างน้อย 1 วินาทีจนปุ่มเปลี่ยนเป็นสีส้ม (ปรับเทียบปุ่มนั้นสำเร็จ) อย่าข้ามปุ่มใด กดซ้ำได้ เมื่อเชื่อมต่อไร้สายจะไม่แสดงจำนวนปุ่มที่ปรับเทียบแล้ว ห้ามถอดสายระหว่างปรับเทียบ</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>เสร็จสิ้นการปรับเทียบ</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>เปลี่ยนชื่อ</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>ลบ</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>แทรก</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>ลบ</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>หน่วง</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>ซ้าย</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>ขวา</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>กลาง</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>กลับ</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>เลือกชนิดเหตุการณ์มาโครที่จะเพิ่ม</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>ปุ่มคีย์บอร์ด</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>กดปุ่ม…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>ปุ่มเมาส์</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>ซ้าย</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>กลาง</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>ขวา</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>ตำแหน่งเมาส์</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ตกลง</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>กด (มม.)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>บันทึก</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>กดผ่านจุดทำงาน</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>กดสุด</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>ยกออกจากจุดล่างสุด</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>กลับถึงจุดบนสุด</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>ยังไม่ได้ตั้งฟังก์ชัน</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>เปิดอยู่</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>ปิด</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>ตกลง</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>กดผ่านจุดทำงาน</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>กดสุด</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>ยกออกจากจุดล่างสุด</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>กลับถึงจุดบนสุด</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>ค่าเริ่มต้น</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>กำหนดเอง</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>ปุ่มเดียว</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>ไฟเส้น</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>เอฟเฟกต์:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>ปิด</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>สว่างค้าง</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>หายใจ</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>สายธาร</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>นีออน</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>คลื่นแสง</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>สี:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>ความสว่าง:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>ความเร็ว:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>สี %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>ตัวเลือกสี</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>ความสว่าง</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>โหมดไฟ</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>ปิดไฟ</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>โหมดการเล่นไฟ:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>สว่างค้าง</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>หายใจ</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>ดาวตก</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>ระลอกน้ำ</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>แสงเหนือ</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>หยดฝน</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>รวมศูนย์</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>สายธาร</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>นีออน</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>คลื่นแสง</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>ดาวระยิบ</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>เงาตามตัว</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>คลื่นไซน์</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>น้ำพุสี</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>บุปผานานาพันธุ์</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>ยิงทีได้สอง</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>คดเคี้ยว</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>ฝนพรำ</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>หิมะไร้รอย</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>ซ้อนชั้น</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>แสงเงา</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>จังหวะเพลง</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>กำหนดเอง</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>ซ้าย</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>ขวา</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>ขึ้น</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>ลง</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>รูปตัว Z</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>เกลียว</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>เข้าด้านใน</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>ออกด้านนอก</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>ไปทางขวา</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>ไปทางซ้าย</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>ลาย 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>ลาย 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>ลาย 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>ลาย 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>ลาย 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>ตามเข็มนาฬิกา</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>ทวนเข็มนาฬิกา</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>ไม่มี</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>ความเร็ว</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>กด (มม.)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>ปล่อย (มม.)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>เลือกปุ่มด้านบนแล้วตั้งสองฟังก์ชันสำหรับการแตะและการกดค้าง (รองรับคีย์ผสม)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>แตะ</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>กดค้าง</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>ปรับเวลาที่ใช้เปิด “กดค้าง”</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ตกลง</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>มาโครใหม่</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>ระยะ RT (ทั้งหมด)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>วงล้อเลือกค่า</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>ผูก 2 ปุ่มที่เลือก (เลือกทีละปุ่มด้านบน) เมื่อกดพร้อมกันจะยึดปุ่มที่กดหลังสุด</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>เลือกปุ่ม A</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>เลือกปุ่ม B</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ตกลง</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>เลือกปุ่มด้านบนแล้วตั้งฟังก์ชันตามโหมดการทำงานสองแบบ คือกดรัวหรือกดค้าง</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>กดรัว</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>กดค้าง</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ตกลง</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>ยังไม่ได้ตั้งฟังก์ชัน</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (เสถียรภาพ RT)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>เมื่อเปิด RT Stab อัลกอริทึมจะช่วยให้ช่วงล่างสุดของสวิตช์นิ่งขึ้น เปอร์เซ็นต์ยิ่งสูงยิ่งนิ่ง แต่ความหน่วงจะเพิ่มขึ้นเล็กน้อย</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0% (ปิด)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>โหมดกันกดพลาด</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(ปิดอยู่)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>ป้องกันการกดเองจากโต๊ะสั่นเมื่อตั้งค่าไวสุด หรือจากความคลาดเคลื่อนของสวิตช์ 0.1 มม. เมื่อเปิด อัลกอริทึมช่วงล่างจะชดเชยส่วนต่างให้คีย์บอร์ดนิ่งขึ้น</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>เปิดอยู่</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>ปิดอยู่</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>ประเภทสวิตช์</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>หลังเปลี่ยนสวิตช์ ให้เลือกประเภทสวิตช์ด้านล่างแล้วคลิกปุ่มที่ใช้สวิตช์นั้นเพื่อแยกประเภท</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>สวิตช์แม่เหล็ก Starburst</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>สวิตช์</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>ตั้งระยะกดและปล่อยแยกกัน:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Rapid Trigger ต่อเนื่อง (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>เปิด: Rapid Trigger จะสิ้นสุดเมื่อปล่อยปุ่มจนสุดเท่านั้น
+ปิด: Rapid Trigger จะสิ้นสุดเมื่อปุ่มขึ้นพ้นจุดทำงาน</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>ตั้งระยะกดซ้ำและระยะรีเซ็ตแยกกัน</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>ระยะที่ทำงานเมื่อกดซ้ำ (มม.)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>ระยะที่รีเซ็ตเมื่อปล่อย (มม.)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>ตั้งค่า</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>ทดสอบระยะกด</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr_TR" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>Renk tonu</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>Ölü bölgeler</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Tuş ölü bölgeleri</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>Dibe vurma ile kalkma arasındaki mesafeye “ölü bölge” denir. Manyetik switch’in çevresel parazit yüzünden kesilmesini azaltır. İhtiyacınıza göre ayarlayın; bu bölgede tetikleme olmaz.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Ayarla</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Üst ölü bölge</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Alt ölü bölge</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>Sanal aygıtları tak veya çıkar:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>Tüm tuşlara sırayla bas</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Yoklama hızı</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G arka ışık kapanma</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Bluetooth arka ışık kapanma</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>2.4G derin uyku süresi</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>dk</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Bluetooth derin uyku süresi</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Debounce düzeyi</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 dk</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>Renk seçici</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>Basılı tutun ve renk almak için ekranda herhangi bir yere sürükleyin</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Bitti</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>Komut kataloğu</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>Tuş kombinasyonu</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Temel karakterler</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Ek tuşlar</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makro ayarları</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Oynatma modu:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Tekrar sayısı</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Otomatik</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Basma</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>Sistem işlevleri</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Fare işlevleri</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>İşlevi ayarla:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Sağ</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Orta</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Sola kaydır</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Sağa kaydır</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Yukarı kaydır</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Aşağı kaydır</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Yukarı kaydır</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Aşağı kaydır</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Özel tuşlar</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>Makro</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Kaydedilmemiş makro</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Temel karakterler</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Ek karakterler</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Tuş kombinasyonu:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>Onayla</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Tuş kombinasyonu</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>Özel</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>Gelişmiş tuşlar</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>Diğer ayarlar</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Fn katmanı</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>Özel / Fn katmanı</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*Önce yukarıdan bir tuşa tıklayın, ardından açılan pencerede kombinasyon, makro, sistem işlevi veya fare işlevi seçerek yeniden atayın</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*Ayarını silmek, devre dışı bırakmak veya yeniden etkinleştirmek için tuşa sağ tıklayın</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Dinamik tuş vuruşu (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Basılı tut/dokun (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Aç/kapat (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Fn katmanı tuşları</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Özel tuşlar</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>Boyamak için bir tuşa tıklayın ya da birden fazla tuş için sürükleyin</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>Çalışmalarım</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Renk:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Renk seçici:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Rastgele renk:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Ayarı temizle</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>Katmana yaz:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>Resim 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>Resim 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>Resim 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>Resim 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>Resim 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Katmandan oku:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Ad:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Güncelle</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>Henüz çalışma yok. Tuşları boyayıp Kaydet&apos;e basın</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Bilgi</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Bu çalışma silinsin mi?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>Çalışmam %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>Makro ayarları</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>Bırak</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Basma</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Gecikme</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Kaydı başlat</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Temizle</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Sabit gecikme (ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>Yeni makro</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Kaydı durdur</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>“Kaydı başlat”a tıkla ve tuşlara bas ya da “Ekle” ile bir olay ekle</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>Soldan bir makro seç</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Kullanılan</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>bayt</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Tuş mesafesi</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Ölü bölgeler</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Switch türü</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Sabitleme</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Deneme testi</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Seçili tuş sayısı</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Mekanik switch</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Kaihua switch</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Alçak profilli manyetik</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst manyetik</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Baize switch</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Özel</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Tuş mesafesi (genel)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>Çıkış</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>Sistem tuşu</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>Dinamik tuş vuruşu</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>Basılı tut/dokun</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>Aç/kapat</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Makro ayarları</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Mesafe testi</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Tuş testi</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Girdi</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>Herhangi bir tuşa basın. Kablosuz bağlantıda canlı hareket verisi yoktur.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Önizleme,Ad,Yönet</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Kalibrasyon kılavuzu</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Her tuşa sırayla sonuna kadar hafifçe basın ve tuş turuncuya dönene kadar (tuş kalibre edildi) en az 1 saniye basılı tutun. Hiçbir tuşu atlamayın; tuşlara tekrar basılabilir. Kablosuz bağlantıda kalibre edilen tuş sayısı gösterilmez. Kalibrasyon sırasında kabloyu çıkarmayın.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Kalibrasyonu başlat</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>Kalibrasyon</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Her tuşa sırayla sonuna kadar hafifçe basın ve tuş turuncuya dönene kadar (tuş kalibre edildi) en az 1 saniye basılı tutun. Hiçbir tuşu atlamayın; tuşlara tekrar basılabilir. Kablosuz bağlantıda kalibre edilen tuş sayısı gösterilmez. Kalibrasyon sırasında kabloyu çıkarmayın.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>Kalibrasyonu bitir</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Yeniden adlandır</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Sil</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Gecikme</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Sağ</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Orta</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Makro olayı türünü seçin</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Klavye tuşu</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Bir tuşa basın…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Fare düğmesi</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Orta</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Sağ</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Fare konumu</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Tamam</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Basma (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Kaydet</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>Tetikleme noktası geçildi</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Dibe basıldı</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Dipten kaldırıldı</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Yukarı döndü</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>İşlev yok</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Açık</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Kapalı</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>Tetikleme noktası geçildi</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Dibe basıldı</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Dipten kaldırıldı</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Yukarı döndü</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>Varsayılan</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Özel</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Tek tuş</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Işık şeridi</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Efekt:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Kapalı</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Sabit</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Nefes</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Akış</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Işık dalgası</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Renk:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Parlaklık:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Hız:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>Renk %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Renk seçici</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Parlaklık</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>Işık modu</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>Işığı kapat</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Oynatma modu:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Sabit</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Nefes</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Meteor</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Dalgacık</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Aurora</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Yağmur damlası</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Birleşme</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Akış</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Işık dalgası</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Yıldızlar</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Gölge</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Sinüs dalgası</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Renk pınarı</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Çiçek bahçesi</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>İki kuş</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Kıvrımlı yol</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Çisenti</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>İzsiz kar</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Katmanlar</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Işık ve gölge</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Müzik ritmi</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Özel</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Sağ</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Yukarı</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Aşağı</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Z şekli</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Sarmal</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>İçe</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Dışa</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>Sağa</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>Sola</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Resim 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Resim 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Resim 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Resim 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Resim 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Saat yönü</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Saat yönü tersi</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Yok</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Hız</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Basma (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Bırakma (mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Yukarıdan bir tuş seçin ve dokunma ile uzun basma için iki işlev atayın (kombinasyonlar desteklenir)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Dokun</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Basılı tut</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>“Basılı tut” için gereken süreyi ayarla</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Tamam</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>Yeni makro</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>RT mesafesi (genel)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>Değer tekerleği</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Seçilen 2 tuşu bağlar (her birini yukarıdan seçin): ikisi birden basılıyken son basılan geçerlidir</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>A tuşunu seç</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>B tuşunu seç</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Tamam</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Yukarıdan bir tuş seçin ve işlevini iki moddan biriyle ayarlayın: tekrarla veya basılı tut</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Tekrarla</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Uzun bas</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>İşlev yok</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (RT sabitleme)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>RT Stab açıkken algoritma switch’in alt bölümünü dengeler. Yüzde arttıkça kararlılık artar, gecikme de biraz yükselir.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0% (kapalı)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Yanlış basma koruması</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Kapalı)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>Uç ayarlarda masa sarsıntısının tuşları tetiklemesini önler ve switch’lerdeki 0,1 mm toleransı giderir. Açıkken alt bölümdeki algoritma farkı kapatır ve klavyeyi daha kararlı yapar.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Açık</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Kapalı</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Switch türü</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>Switch değiştirdikten sonra aşağıdan ilgili switch’i seçin ve takılı olduğu tuşlara tıklayın</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Starburst manyetik</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>Anahtar</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Basma ve bırakma mesafesini ayrı ayarla:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Sürekli Rapid Trigger (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>Açık: Rapid Trigger yalnızca tuş tamamen bırakıldığında sona erer.
+Kapalı: Rapid Trigger, tuş tetikleme noktasının üstüne çıkınca sona erer</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Yeniden basma ve sıfırlama mesafesini ayrı ayarla</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Yeniden tetikleme mesafesi (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Bırakınca sıfırlama mesafesi (mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Ayarla</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Mesafe testi</translation>
     </message>
 </context>
 </TS>

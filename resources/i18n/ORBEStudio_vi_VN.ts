@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="vi_VN" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>Sắc độ</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>Vùng chết</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>Đặt vùng chết của phím</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>Khoảng cách từ khi chạm đáy đến trước khi nhả lên được gọi là “vùng chết”. Vùng chết giúp giảm mất tín hiệu của switch từ do nhiễu. Bạn có thể tùy chỉnh; trong khoảng này phím sẽ không kích hoạt.</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Đặt</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>Vùng chết trên</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>Vùng chết dưới</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>Cắm hoặc rút thiết bị ảo:</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>Lần lượt nhấn tất cả các phím</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>Tần số quét</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>Tắt đèn nền 2.4G</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>Tắt đèn nền Bluetooth</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>Thời gian ngủ sâu 2.4G</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>phút</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>Thời gian ngủ sâu Bluetooth</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>Mức chống dội phím</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 phút</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>Bộ chọn màu</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>Giữ và kéo đến bất kỳ đâu trên màn hình để lấy màu</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Xong</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>Danh mục lệnh</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>Tổ hợp phím</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>Ký tự cơ bản</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>Phím mở rộng</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Cài đặt macro</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>Chế độ phát:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>Số lần lặp</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Tự động</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Nhấn</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>Chức năng hệ thống</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>Chức năng chuột</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>Đặt chức năng:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Trái</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Phải</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Giữa</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>Tiến</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>Lùi</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>Cuộn trái</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>Cuộn phải</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>Cuộn lên</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>Cuộn xuống</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>Cuộn trang lên</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>Cuộn trang xuống</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Phím tùy chỉnh</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>Macro</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>Macro chưa ghi</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>Ký tự cơ bản</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>Ký tự mở rộng</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>Tổ hợp phím:</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>Xác nhận</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>Tổ hợp phím</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>Tùy chỉnh</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>Phím nâng cao</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>Cài đặt khác</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Lớp Fn</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>Tùy chỉnh / Lớp Fn</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*Nhấp chọn một phím ở trên trước, sau đó chọn tổ hợp phím, macro, chức năng hệ thống hoặc chức năng chuột trong hộp thoại để gán lại</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*Nhấp chuột phải vào phím để xóa cài đặt, tắt phím hoặc bật lại</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>Hành trình động (DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>Giữ/nhấn (MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>Bật/tắt (TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Cài đặt phím lớp Fn</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>Phím tùy chỉnh</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>Nhấp vào phím để tô màu, kéo để tô nhiều phím cùng lúc</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>Tác phẩm của tôi</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Màu:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>Chọn màu:</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>Màu ngẫu nhiên:</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>Xóa cài đặt</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>Ghi vào lớp:</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>Hình 1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>Hình 2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>Hình 3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>Hình 4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>Hình 5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>Đọc từ lớp:</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>Tên:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>Cập nhật</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Lưu</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>Chưa có tác phẩm nào. Tô màu các phím rồi nhấn Lưu</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Thông báo</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>Bạn có chắc muốn xóa tác phẩm này?</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>Tác phẩm %1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>Cài đặt macro</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>Nhả</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Nhấn</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Trễ</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Bắt đầu ghi</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>Chèn</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Xóa</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Xóa hết</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>Đặt độ trễ cố định (ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Lưu</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>Macro mới</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Dừng ghi</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>Bấm “Bắt đầu ghi” rồi nhấn phím, hoặc bấm “Chèn” để thêm sự kiện</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>Chọn một macro ở bên trái</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>Đã dùng</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>byte</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>Hành trình phím</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>Vùng chết</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>Loại switch</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>Thuật toán ổn định</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>Kiểm tra mô phỏng</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>Số phím đã chọn</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>Gaote</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>Switch cơ</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>Switch Kaihua</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>Star Gravity</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>Star Shine</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>Switch từ low-profile</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Switch từ Starburst</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>Switch Baize</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Tùy chỉnh</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>Hành trình phím (toàn bộ)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>Thoát</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>Phím hệ thống</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>Hành trình động</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>Giữ/nhấn</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>Bật/tắt</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>Cài đặt macro</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Kiểm tra hành trình</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>Kiểm tra phím</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>Giá trị nhập</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>Nhấn phím bất kỳ. Kết nối không dây không có dữ liệu hành trình trực tiếp.</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>Xóa</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>Xem trước,Tên,Quản lý</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>Hướng dẫn hiệu chuẩn hành trình</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Lần lượt nhấn nhẹ từng phím xuống hết hành trình và giữ ít nhất 1 giây cho đến khi phím chuyển sang màu cam (phím đã hiệu chuẩn xong). Đừng bỏ sót phím nào; có thể nhấn lại. Khi dùng không dây sẽ không hiển thị số phím đã hiệu chuẩn. Không rút cáp trong khi hiệu chuẩn.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>Bắt đầu hiệu chuẩn</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>Hiệu chuẩn hành trình</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>Lần lượt nhấn nhẹ từng phím xuống hết hành trình và giữ ít nhất 1 giây cho đến khi phím chuyển sang màu cam (phím đã hiệu chuẩn xong). Đừng bỏ sót phím nào; có thể nhấn lại. Khi dùng không dây sẽ không hiển thị số phím đã hiệu chuẩn. Không rút cáp trong khi hiệu chuẩn.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>Hoàn tất hiệu chuẩn</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>Đổi tên</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Xóa</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>Chèn</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Xóa</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>Trễ</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Trái</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Phải</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Giữa</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Quay lại</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>Chọn loại sự kiện macro cần thêm</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>Phím bàn phím</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>Nhấn một phím…</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>Nút chuột</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>Trái</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>Giữa</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>Phải</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>Vị trí chuột</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Nhấn (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Lưu</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>Nhấn qua điểm kích hoạt</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Nhấn chạm đáy</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Nhấc khỏi đáy</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Trở về đỉnh</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Chưa đặt chức năng</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Đã bật</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Tắt</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>Nhấn qua điểm kích hoạt</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>Nhấn chạm đáy</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>Nhấc khỏi đáy</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>Trở về đỉnh</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>Mặc định</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Tùy chỉnh</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>Phím đơn</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>Dải đèn</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>Hiệu ứng:</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Tắt</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Sáng tĩnh</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Nhịp thở</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Dòng chảy</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Sóng ánh sáng</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>Màu:</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>Độ sáng:</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>Tốc độ:</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>Màu %1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>Bộ chọn màu</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>Độ sáng</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>Chế độ đèn</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>Tắt đèn</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>Chế độ phát:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>Sáng tĩnh</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>Nhịp thở</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>Sao băng</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>Gợn sóng</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>Cực quang</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>Giọt mưa</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>Hội tụ</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>Dòng chảy</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>Sóng ánh sáng</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>Trời sao</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>Như hình với bóng</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>Sóng sin</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>Suối màu</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>Trăm hoa đua nở</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>Một mũi tên</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>Đường uốn lượn</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>Mưa bụi</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>Đạp tuyết vô ngân</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>Lớp lớp</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>Sáng tối</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>Nhịp nhạc</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Tùy chỉnh</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Trái</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Phải</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Lên</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Xuống</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Hình chữ Z</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>Xoắn ốc</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>Vào trong</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>Ra ngoài</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>Sang phải</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>Sang trái</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>Hình 1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>Hình 2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>Hình 3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>Hình 4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>Hình 5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>Theo chiều kim đồng hồ</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>Ngược chiều kim đồng hồ</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Không có</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>Tốc độ</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>Nhấn (mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>Nhả (mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>Chọn phím ở trên và đặt hai chức năng, một cho nhấn và một cho nhấn giữ (hỗ trợ tổ hợp phím)</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>Nhấn</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>Giữ</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>Chỉnh thời gian để kích hoạt “Giữ”</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>Macro mới</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>Hành trình RT (toàn bộ)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>Bánh xe giá trị</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>Liên kết 2 phím đã chọn (chọn lần lượt ở trên): khi cả hai cùng được nhấn, phím nhấn sau cùng được ưu tiên</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>Chọn phím A</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>Chọn phím B</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>Chọn phím ở trên và đặt chức năng theo một trong hai kiểu kích hoạt: lặp hoặc giữ</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>Lặp</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>Nhấn giữ</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>Chưa đặt chức năng</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab (ổn định RT)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>Khi bật RT Stab, thuật toán giúp đáy switch ổn định hơn. Tỷ lệ càng cao càng ổn định, nhưng độ trễ cũng tăng đôi chút.</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0% (tắt)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>Chế độ chống nhấn nhầm</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(Đã tắt)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>Ngăn nhấn nhầm do rung bàn ở thiết lập cực nhạy, hoặc do dung sai switch khoảng 0,1 mm. Khi bật, thuật toán ở đáy hành trình sẽ bù sai lệch để bàn phím ổn định hơn.</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>Đã bật</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>Đã tắt</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>Loại switch</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>Sau khi thay switch, hãy chọn loại switch tương ứng bên dưới và nhấp vào các phím dùng loại đó để phân biệt</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>Dazzle</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>Lightning</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>Switch từ Starburst</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>Magnetic Jade</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>Magnetic Jade Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>Magnetic Jade Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>Heavenly King</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>King of Magnets</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>Công tắc</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>Đặt riêng hành trình nhấn và nhả:</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>Rapid Trigger liên tục (RT)</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>Bật: Rapid Trigger chỉ kết thúc khi bạn nhả hẳn phím.
+Tắt: Rapid Trigger kết thúc khi phím nhả lên quá điểm kích hoạt</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>Đặt riêng hành trình nhấn lại và nhả</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>Hành trình để kích hoạt khi nhấn lại (mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>Hành trình để đặt lại khi nhả (mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Đặt</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>Kiểm tra hành trình</translation>
     </message>
 </context>
 </TS>

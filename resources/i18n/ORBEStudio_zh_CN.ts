@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
 <context>
+    <name>ColorSlider</name>
+    <message>
+        <source>色相</source>
+        <translation>色相</translation>
+    </message>
+</context>
+<context>
     <name>CommandRows</name>
     <message>
         <source>命令,数据长度,Byte0
@@ -39,6 +46,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeadZonePage</name>
+    <message>
+        <source>死区设置</source>
+        <translation>死区设置</translation>
+    </message>
+    <message>
+        <source>按键死区设定</source>
+        <translation>按键死区设定</translation>
+    </message>
+    <message>
+        <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
+        <translation>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>顶部死区</source>
+        <translation>顶部死区</translation>
+    </message>
+    <message>
+        <source>底部死区</source>
+        <translation>底部死区</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -47,6 +81,60 @@ B</translation>
     <message>
         <source>插入或拔出虚拟设备：</source>
         <translation>插入或拔出虚拟设备：</translation>
+    </message>
+    <message>
+        <source>依次按下所有按键</source>
+        <translation>依次按下所有按键</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceOptionsPanel</name>
+    <message>
+        <source>键盘回报率</source>
+        <translation>键盘回报率</translation>
+    </message>
+    <message>
+        <source>2.4G关闭背光</source>
+        <translation>2.4G关闭背光</translation>
+    </message>
+    <message>
+        <source>蓝牙关闭背光</source>
+        <translation>蓝牙关闭背光</translation>
+    </message>
+    <message>
+        <source>2.4G深度睡眠时间</source>
+        <translation>2.4G深度睡眠时间</translation>
+    </message>
+    <message>
+        <source>分钟</source>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>蓝牙深度睡眠时间</source>
+        <translation>蓝牙深度睡眠时间</translation>
+    </message>
+    <message>
+        <source>按键防抖等级设置</source>
+        <translation>按键防抖等级设置</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+</context>
+<context>
+    <name>DialogColorPicker</name>
+    <message>
+        <source>取色器</source>
+        <translation>取色器</translation>
+    </message>
+    <message>
+        <source>按住并拖到屏幕上的任意位置取色</source>
+        <translation>按住并拖到屏幕上的任意位置取色</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>完成</translation>
     </message>
 </context>
 <context>
@@ -58,6 +146,144 @@ B</translation>
     <message>
         <source>命令目录</source>
         <translation>命令目录</translation>
+    </message>
+</context>
+<context>
+    <name>DialogFNPicker</name>
+    <message>
+        <source>组合键</source>
+        <translation>组合键</translation>
+    </message>
+    <message>
+        <source>基本字符</source>
+        <translation>基本字符</translation>
+    </message>
+    <message>
+        <source>拓展字符(按键)</source>
+        <translation>拓展字符(按键)</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>宏设置</translation>
+    </message>
+    <message>
+        <source>播放方式:</source>
+        <translation>播放方式:</translation>
+    </message>
+    <message>
+        <source>循环次数</source>
+        <translation>循环次数</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>系统功能</source>
+        <translation>系统功能</translation>
+    </message>
+    <message>
+        <source>鼠标功能</source>
+        <translation>鼠标功能</translation>
+    </message>
+    <message>
+        <source>设置功能为:</source>
+        <translation>设置功能为:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>左键</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>右键</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>中键</translation>
+    </message>
+    <message>
+        <source>前移</source>
+        <translation>前移</translation>
+    </message>
+    <message>
+        <source>后移</source>
+        <translation>后移</translation>
+    </message>
+    <message>
+        <source>左滚</source>
+        <translation>左滚</translation>
+    </message>
+    <message>
+        <source>右滚</source>
+        <translation>右滚</translation>
+    </message>
+    <message>
+        <source>上滚</source>
+        <translation>上滚</translation>
+    </message>
+    <message>
+        <source>下滚</source>
+        <translation>下滚</translation>
+    </message>
+    <message>
+        <source>向上滚屏</source>
+        <translation>向上滚屏</translation>
+    </message>
+    <message>
+        <source>向下滚屏</source>
+        <translation>向下滚屏</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>自定义按键</translation>
+    </message>
+    <message>
+        <source>宏</source>
+        <translation>宏</translation>
+    </message>
+    <message>
+        <source>未录制的宏</source>
+        <translation>未录制的宏</translation>
+    </message>
+</context>
+<context>
+    <name>DialogVKPicker</name>
+    <message>
+        <source>基本字符</source>
+        <translation>基本字符</translation>
+    </message>
+    <message>
+        <source>拓展字符</source>
+        <translation>拓展字符</translation>
+    </message>
+    <message>
+        <source>组合键：</source>
+        <translation>组合键：</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>组合键</source>
+        <translation>组合键</translation>
     </message>
 </context>
 <context>
@@ -174,6 +400,306 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>FrameKeySetting</name>
+    <message>
+        <source>自定义</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>高级键</source>
+        <translation>高级键</translation>
+    </message>
+    <message>
+        <source>其他设置</source>
+        <translation>其他设置</translation>
+    </message>
+    <message>
+        <source>Fn层设置</source>
+        <translation>Fn层设置</translation>
+    </message>
+    <message>
+        <source>自定义/Fn层设置</source>
+        <translation>自定义/Fn层设置</translation>
+    </message>
+    <message>
+        <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
+        <translation>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</translation>
+    </message>
+    <message>
+        <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
+        <translation>*右键点击按键可清除设置、禁用按键或取消禁用</translation>
+    </message>
+    <message>
+        <source>动态键程(DKS)</source>
+        <translation>动态键程(DKS)</translation>
+    </message>
+    <message>
+        <source>按住/单击(MT)</source>
+        <translation>按住/单击(MT)</translation>
+    </message>
+    <message>
+        <source>切换开关(TGL)</source>
+        <translation>切换开关(TGL)</translation>
+    </message>
+    <message>
+        <source>Fn层按键设置</source>
+        <translation>Fn层按键设置</translation>
+    </message>
+    <message>
+        <source>自定义按键</source>
+        <translation>自定义按键</translation>
+    </message>
+</context>
+<context>
+    <name>FrameLight</name>
+    <message>
+        <source>点击按键上色，拖动可给多个按键上色</source>
+        <translation>点击按键上色，拖动可给多个按键上色</translation>
+    </message>
+    <message>
+        <source>我的作品</source>
+        <translation>我的作品</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>颜色:</translation>
+    </message>
+    <message>
+        <source>取色器：</source>
+        <translation>取色器：</translation>
+    </message>
+    <message>
+        <source>随机颜色：</source>
+        <translation>随机颜色：</translation>
+    </message>
+    <message>
+        <source>清除设置</source>
+        <translation>清除设置</translation>
+    </message>
+    <message>
+        <source>写入层(图):</source>
+        <translation>写入层(图):</translation>
+    </message>
+    <message>
+        <source>图1</source>
+        <translation>图1</translation>
+    </message>
+    <message>
+        <source>图2</source>
+        <translation>图2</translation>
+    </message>
+    <message>
+        <source>图3</source>
+        <translation>图3</translation>
+    </message>
+    <message>
+        <source>图4</source>
+        <translation>图4</translation>
+    </message>
+    <message>
+        <source>图5</source>
+        <translation>图5</translation>
+    </message>
+    <message>
+        <source>读取层(图):</source>
+        <translation>读取层(图):</translation>
+    </message>
+    <message>
+        <source>作品名称:</source>
+        <translation>作品名称:</translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>还没有作品，给按键上色后点击“保存”</source>
+        <translation>还没有作品，给按键上色后点击“保存”</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>确认要删除此作品吗？</source>
+        <translation>确认要删除此作品吗？</translation>
+    </message>
+    <message>
+        <source>我的作品%1</source>
+        <translation>我的作品%1</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMacro</name>
+    <message>
+        <source>宏设置</source>
+        <translation>宏设置</translation>
+    </message>
+    <message>
+        <source>抬起</source>
+        <translation>抬起</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>延迟</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>开始录制</translation>
+    </message>
+    <message>
+        <source>插入</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>设置固定延迟(ms):</source>
+        <translation>设置固定延迟(ms):</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>新建宏</source>
+        <translation>新建宏</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>停止录制</translation>
+    </message>
+    <message>
+        <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
+        <translation>点击“开始录制”后按下按键，或点击“插入”添加事件</translation>
+    </message>
+    <message>
+        <source>请在左侧选择一个宏</source>
+        <translation>请在左侧选择一个宏</translation>
+    </message>
+    <message>
+        <source>占用</source>
+        <translation>占用</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>字节</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMagic</name>
+    <message>
+        <source>行程设置</source>
+        <translation>行程设置</translation>
+    </message>
+    <message>
+        <source>死区设置</source>
+        <translation>死区设置</translation>
+    </message>
+    <message>
+        <source>轴体设置</source>
+        <translation>轴体设置</translation>
+    </message>
+    <message>
+        <source>增稳算法</source>
+        <translation>增稳算法</translation>
+    </message>
+    <message>
+        <source>模拟测试</source>
+        <translation>模拟测试</translation>
+    </message>
+    <message>
+        <source>已选中按键的数量</source>
+        <translation>已选中按键的数量</translation>
+    </message>
+    <message>
+        <source>高特</source>
+        <translation>高特</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>磁玉</translation>
+    </message>
+    <message>
+        <source>磁玉pro</source>
+        <translation>磁玉pro</translation>
+    </message>
+    <message>
+        <source>磁玉gaming</source>
+        <translation>磁玉gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>天王</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>万磁王</translation>
+    </message>
+    <message>
+        <source>机械轴</source>
+        <translation>机械轴</translation>
+    </message>
+    <message>
+        <source>凯华轴</source>
+        <translation>凯华轴</translation>
+    </message>
+    <message>
+        <source>星引力</source>
+        <translation>星引力</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>炫光</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>闪电</translation>
+    </message>
+    <message>
+        <source>星耀</source>
+        <translation>星耀</translation>
+    </message>
+    <message>
+        <source>矮磁轴</source>
+        <extracomment>冠泰轴</extracomment>
+        <translation>矮磁轴</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>星芒磁轴</translation>
+    </message>
+    <message>
+        <source>白泽轴</source>
+        <translation>白泽轴</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>自定义</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMain</name>
+    <message>
+        <source>键程设置(全局)</source>
+        <translation>键程设置(全局)</translation>
+    </message>
+</context>
+<context>
     <name>FrameSystemInfo</name>
     <message>
         <source>系统设置</source>
@@ -209,6 +735,135 @@ B</translation>
     <message>
         <source>退出程序</source>
         <translation>退出程序</translation>
+    </message>
+</context>
+<context>
+    <name>KeyBubble</name>
+    <message>
+        <source>系统按键</source>
+        <translation>系统按键</translation>
+    </message>
+    <message>
+        <source>动态键程</source>
+        <translation>动态键程</translation>
+    </message>
+    <message>
+        <source>按住单击</source>
+        <translation>按住单击</translation>
+    </message>
+    <message>
+        <source>切换开关</source>
+        <translation>切换开关</translation>
+    </message>
+    <message>
+        <source>宏设置</source>
+        <translation>宏设置</translation>
+    </message>
+</context>
+<context>
+    <name>KeyTestPage</name>
+    <message>
+        <source>行程测试</source>
+        <translation>行程测试</translation>
+    </message>
+    <message>
+        <source>按键测试</source>
+        <translation>按键测试</translation>
+    </message>
+    <message>
+        <source>输入值</source>
+        <translation>输入值</translation>
+    </message>
+    <message>
+        <source>按下任意按键。无线连接下没有实时行程数据。</source>
+        <translation>按下任意按键。无线连接下没有实时行程数据。</translation>
+    </message>
+</context>
+<context>
+    <name>LightWorksModel</name>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>预览图,作品名称,管理</source>
+        <translation>预览图,作品名称,管理</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing1</name>
+    <message>
+        <source>行程校准操作指南</source>
+        <translation>行程校准操作指南</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>开始校准</source>
+        <translation>开始校准</translation>
+    </message>
+</context>
+<context>
+    <name>LinearFixing2</name>
+    <message>
+        <source>行程校准</source>
+        <translation>行程校准</translation>
+    </message>
+    <message>
+        <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
+        <translation>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>完成校准</source>
+        <translation>完成校准</translation>
+    </message>
+</context>
+<context>
+    <name>MacroItem</name>
+    <message>
+        <source>重命名</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSquare</name>
+    <message>
+        <source>插入</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>延迟</source>
+        <translation>延迟</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>左键</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>右键</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>中键</translation>
     </message>
 </context>
 <context>
@@ -260,6 +915,382 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>返回</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleAddMacroSquare</name>
+    <message>
+        <source>请选择添加宏事件类型</source>
+        <translation>请选择添加宏事件类型</translation>
+    </message>
+    <message>
+        <source>键盘按键</source>
+        <translation>键盘按键</translation>
+    </message>
+    <message>
+        <source>请按下按键......</source>
+        <translation>请按下按键......</translation>
+    </message>
+    <message>
+        <source>鼠标按键</source>
+        <translation>鼠标按键</translation>
+    </message>
+    <message>
+        <source>左键</source>
+        <translation>左键</translation>
+    </message>
+    <message>
+        <source>中键</source>
+        <translation>中键</translation>
+    </message>
+    <message>
+        <source>右键</source>
+        <translation>右键</translation>
+    </message>
+    <message>
+        <source>鼠标位置</source>
+        <translation>鼠标位置</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSAdjust</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>按下(mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSItem</name>
+    <message>
+        <source>按下触发</source>
+        <translation>按下触发</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>按到底部</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>离开底部</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>回到顶部</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>未设置功能</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>已开启</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleDKSTab</name>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>按下触发</source>
+        <translation>按下触发</translation>
+    </message>
+    <message>
+        <source>按到底部</source>
+        <translation>按到底部</translation>
+    </message>
+    <message>
+        <source>离开底部</source>
+        <translation>离开底部</translation>
+    </message>
+    <message>
+        <source>回到顶部</source>
+        <translation>回到顶部</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfColor</name>
+    <message>
+        <source>系统默认</source>
+        <translation>系统默认</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>单键</source>
+        <translation>单键</translation>
+    </message>
+    <message>
+        <source>灯带灯效设置</source>
+        <translation>灯带灯效设置</translation>
+    </message>
+    <message>
+        <source>灯效：</source>
+        <translation>灯效：</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>常亮</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>呼吸</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>川流不息</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>霓虹</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>光波</translation>
+    </message>
+    <message>
+        <source>色彩：</source>
+        <translation>色彩：</translation>
+    </message>
+    <message>
+        <source>炫彩</source>
+        <translation>炫彩</translation>
+    </message>
+    <message>
+        <source>亮度：</source>
+        <translation>亮度：</translation>
+    </message>
+    <message>
+        <source>速度：</source>
+        <translation>速度：</translation>
+    </message>
+    <message>
+        <source>颜色%1</source>
+        <translation>颜色%1</translation>
+    </message>
+    <message>
+        <source>取色器</source>
+        <translation>取色器</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfLumi</name>
+    <message>
+        <source>灯光亮度</source>
+        <translation>灯光亮度</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfMode</name>
+    <message>
+        <source>灯效模式</source>
+        <translation>灯效模式</translation>
+    </message>
+    <message>
+        <source>关灯</source>
+        <translation>关灯</translation>
+    </message>
+    <message>
+        <source>灯光播放模式:</source>
+        <translation>灯光播放模式:</translation>
+    </message>
+    <message>
+        <source>常亮</source>
+        <translation>常亮</translation>
+    </message>
+    <message>
+        <source>呼吸</source>
+        <translation>呼吸</translation>
+    </message>
+    <message>
+        <source>流星</source>
+        <translation>流星</translation>
+    </message>
+    <message>
+        <source>涟漪</source>
+        <translation>涟漪</translation>
+    </message>
+    <message>
+        <source>极光</source>
+        <translation>极光</translation>
+    </message>
+    <message>
+        <source>雨滴</source>
+        <translation>雨滴</translation>
+    </message>
+    <message>
+        <source>聚合</source>
+        <translation>聚合</translation>
+    </message>
+    <message>
+        <source>川流不息</source>
+        <translation>川流不息</translation>
+    </message>
+    <message>
+        <source>霓虹</source>
+        <translation>霓虹</translation>
+    </message>
+    <message>
+        <source>光波</source>
+        <translation>光波</translation>
+    </message>
+    <message>
+        <source>繁星点点</source>
+        <translation>繁星点点</translation>
+    </message>
+    <message>
+        <source>如影随形</source>
+        <translation>如影随形</translation>
+    </message>
+    <message>
+        <source>正弦波</source>
+        <translation>正弦波</translation>
+    </message>
+    <message>
+        <source>彩泉涌动</source>
+        <translation>彩泉涌动</translation>
+    </message>
+    <message>
+        <source>百花争艳</source>
+        <translation>百花争艳</translation>
+    </message>
+    <message>
+        <source>一石二鸟</source>
+        <translation>一石二鸟</translation>
+    </message>
+    <message>
+        <source>峰回路转</source>
+        <translation>峰回路转</translation>
+    </message>
+    <message>
+        <source>斜风细雨</source>
+        <translation>斜风细雨</translation>
+    </message>
+    <message>
+        <source>踏雪无痕</source>
+        <translation>踏雪无痕</translation>
+    </message>
+    <message>
+        <source>层出不穷</source>
+        <translation>层出不穷</translation>
+    </message>
+    <message>
+        <source>光影</source>
+        <translation>光影</translation>
+    </message>
+    <message>
+        <source>音乐律动</source>
+        <translation>音乐律动</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Z形</source>
+        <translation>Z形</translation>
+    </message>
+    <message>
+        <source>回形</source>
+        <translation>回形</translation>
+    </message>
+    <message>
+        <source>向内</source>
+        <translation>向内</translation>
+    </message>
+    <message>
+        <source>向外</source>
+        <translation>向外</translation>
+    </message>
+    <message>
+        <source>向右</source>
+        <translation>向右</translation>
+    </message>
+    <message>
+        <source>向左</source>
+        <translation>向左</translation>
+    </message>
+    <message>
+        <source>图案1</source>
+        <translation>图案1</translation>
+    </message>
+    <message>
+        <source>图案2</source>
+        <translation>图案2</translation>
+    </message>
+    <message>
+        <source>图案3</source>
+        <translation>图案3</translation>
+    </message>
+    <message>
+        <source>图案4</source>
+        <translation>图案4</translation>
+    </message>
+    <message>
+        <source>图案5</source>
+        <translation>图案5</translation>
+    </message>
+    <message>
+        <source>顺时针</source>
+        <translation>顺时针</translation>
+    </message>
+    <message>
+        <source>逆时针</source>
+        <translation>逆时针</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleEfSpeed</name>
+    <message>
+        <source>灯光速度</source>
+        <translation>灯光速度</translation>
     </message>
 </context>
 <context>
@@ -815,10 +1846,100 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLinear</name>
+    <message>
+        <source>按下(mm)</source>
+        <translation>按下(mm)</translation>
+    </message>
+    <message>
+        <source>抬起(mm)</source>
+        <translation>抬起(mm)</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMTTab</name>
+    <message>
+        <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
+        <translation>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</translation>
+    </message>
+    <message>
+        <source>单击</source>
+        <translation>单击</translation>
+    </message>
+    <message>
+        <source>按住</source>
+        <translation>按住</translation>
+    </message>
+    <message>
+        <source>调整触发“按住&quot;键所需的时间</source>
+        <translation>调整触发“按住&quot;键所需的时间</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleMacroManager</name>
+    <message>
+        <source>新建宏</source>
+        <translation>新建宏</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleRtSet</name>
+    <message>
+        <source>RT行程设置(全局)</source>
+        <translation>RT行程设置(全局)</translation>
+    </message>
+</context>
+<context>
     <name>ModuleScrollValue</name>
     <message>
         <source>数值滚轮</source>
         <translation>数值滚轮</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleSnapTab</name>
+    <message>
+        <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
+        <translation>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</translation>
+    </message>
+    <message>
+        <source>选择A键</source>
+        <translation>选择A键</translation>
+    </message>
+    <message>
+        <source>选择B键</source>
+        <translation>选择B键</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>ModuleTGLTab</name>
+    <message>
+        <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
+        <translation>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</translation>
+    </message>
+    <message>
+        <source>连点</source>
+        <translation>连点</translation>
+    </message>
+    <message>
+        <source>长按</source>
+        <translation>长按</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>未设置功能</source>
+        <translation>未设置功能</translation>
     </message>
 </context>
 <context>
@@ -844,10 +1965,128 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>StabilityPage</name>
+    <message>
+        <source>RT Stab(RT 增稳算法)</source>
+        <translation>RT Stab(RT 增稳算法)</translation>
+    </message>
+    <message>
+        <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
+        <translation>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</translation>
+    </message>
+    <message>
+        <source>0%(关闭)</source>
+        <translation>0%(关闭)</translation>
+    </message>
+    <message>
+        <source>防误触模式</source>
+        <translation>防误触模式</translation>
+    </message>
+    <message>
+        <source>(已关闭)</source>
+        <translation>(已关闭)</translation>
+    </message>
+    <message>
+        <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
+        <translation>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</translation>
+    </message>
+    <message>
+        <source>已开启</source>
+        <translation>已开启</translation>
+    </message>
+    <message>
+        <source>已关闭</source>
+        <translation>已关闭</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchTypePage</name>
+    <message>
+        <source>轴体设置</source>
+        <translation>轴体设置</translation>
+    </message>
+    <message>
+        <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
+        <translation>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</translation>
+    </message>
+    <message>
+        <source>炫光</source>
+        <translation>炫光</translation>
+    </message>
+    <message>
+        <source>闪电</source>
+        <translation>闪电</translation>
+    </message>
+    <message>
+        <source>星芒磁轴</source>
+        <translation>星芒磁轴</translation>
+    </message>
+    <message>
+        <source>磁玉</source>
+        <translation>磁玉</translation>
+    </message>
+    <message>
+        <source>磁玉Pro</source>
+        <translation>磁玉Pro</translation>
+    </message>
+    <message>
+        <source>磁玉Gaming</source>
+        <translation>磁玉Gaming</translation>
+    </message>
+    <message>
+        <source>天王</source>
+        <translation>天王</translation>
+    </message>
+    <message>
+        <source>万磁王</source>
+        <translation>万磁王</translation>
+    </message>
+</context>
+<context>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
         <translation>开关</translation>
+    </message>
+</context>
+<context>
+    <name>TravelPage</name>
+    <message>
+        <source>单独设置按下抬起触发行程：</source>
+        <translation>单独设置按下抬起触发行程：</translation>
+    </message>
+    <message>
+        <source>全程连续快速触发（RT）</source>
+        <translation>全程连续快速触发（RT）</translation>
+    </message>
+    <message>
+        <source>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</source>
+        <translation>启用时，快速触发在您完全松开按键时才会终止。
+禁用时，松开按键到轴体触发行程后终止快速触发</translation>
+    </message>
+    <message>
+        <source>单独设置按键再次按下触发和松开重置行程</source>
+        <translation>单独设置按键再次按下触发和松开重置行程</translation>
+    </message>
+    <message>
+        <source>再次按下按键触发所需的行程(mm)</source>
+        <translation>再次按下按键触发所需的行程(mm)</translation>
+    </message>
+    <message>
+        <source>松开按键重置所需的行程(mm)</source>
+        <translation>松开按键重置所需的行程(mm)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>设置</translation>
+    </message>
+</context>
+<context>
+    <name>TravelRuler</name>
+    <message>
+        <source>行程测试</source>
+        <translation>行程测试</translation>
     </message>
 </context>
 </TS>

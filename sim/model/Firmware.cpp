@@ -5,6 +5,8 @@
 namespace sim {
 namespace {
 
+constexpr Byte ActuationTable = 0x00;
+
 using Run = Answer (*)(Firmware &, const Frame &, TimePoint);
 
 /// A command that a part of the keyboard's state carries out.
@@ -177,6 +179,18 @@ Answer Firmware::execute(const Frame &frame, TimePoint now)
         return answer;
     ++faults.malformed;
     return frame.acknowledgement();
+}
+
+KeySet Firmware::pressedKeys(TimePoint now) const
+{
+    KeySet pressed;
+    for (int position = 0; position < KeyMatrices::Positions; ++position) {
+        const int depth = sensors.fingers.depth(position, now);
+        const auto actuation = state.active().magnetism.value(ActuationTable, position);
+        pressed[static_cast<std::size_t>(position)] =
+            depth > 0 && depth >= static_cast<int>(std::min<std::uint32_t>(actuation, FullTravel));
+    }
+    return pressed;
 }
 
 Page identityPage(std::uint32_t id, std::uint16_t version)

@@ -32,6 +32,9 @@ public:
     /// Runs one command. Nothing comes back from a frame with a bad checksum.
     Answer execute(const Frame &frame, TimePoint now);
 
+    /// The keys that are down at their actuation point or below it.
+    KeySet pressedKeys(TimePoint now) const;
+
     KeyboardState state;
     Sensors sensors;
     FrameFaults faults;

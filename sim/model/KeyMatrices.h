@@ -2,6 +2,7 @@
 
 #include "Frame.h"
 
+#include <bitset>
 #include <optional>
 
 namespace sim {
@@ -50,5 +51,7 @@ private:
     std::array<KeyEntry, FnPositions> fnKeys{};
     bool group = false;
 };
+
+using KeySet = std::bitset<KeyMatrices::Positions>;
 
 } // namespace sim

@@ -174,6 +174,12 @@ sim::LightView VirtualDevice::light() const
     return sim::lightOf(firmware().state);
 }
 
+sim::KeySet VirtualDevice::pressedKeys() const
+{
+    const auto lock = lockBus();
+    return firmware().pressedKeys(sim::Clock::now());
+}
+
 bool VirtualDevice::keyTestRunning() const
 {
     const auto lock = lockBus();

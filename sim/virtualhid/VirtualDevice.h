@@ -72,6 +72,7 @@ public:
     sim::KeyboardState state() const;                                   ///< a copy
     void edit(const std::function<void(sim::KeyboardState &)> &change); ///< under the lock; keep it short
     sim::LightView light() const;                                       ///< what shines now
+    sim::KeySet pressedKeys() const;                                    ///< the keys that are down now
     bool keyTestRunning() const;
     bool calibrating() const;
     /// Receiver: whether the keyboard is paired, and after how many status polls it wakes and answers.

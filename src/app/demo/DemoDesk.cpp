@@ -1,10 +1,13 @@
 #include "DemoDesk.h"
 
+#include "HubWindow.h"
 #include "KeyboardLayout.h"
 #include "KeyMatrix.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -19,6 +22,9 @@ constexpr int DigitKeys = 9;
 constexpr auto FingerPeriod = 600ms; ///< from one key to the next
 constexpr auto FingerTravel = 200ms; ///< of a key on its way down, and up
 constexpr auto FingerHold = 100ms;
+constexpr auto PlacingDelay = 200ms; ///< the hub and the window manager have settled by then
+constexpr int WindowGap = 8;
+constexpr int TitleRoom = 32; ///< of a window whose frame isn't known yet
 
 QString nameOf(const sim::Model &model)
 {
@@ -39,16 +45,23 @@ bool hasKeys(const sim::Model &model)
 
 DemoDesk::DemoDesk(const QStringList &plugged, QWidget *parent)
     : QWidget(parent, Qt::Window)
+    , title(new QLabel(this))
+    , fingersBox(new QCheckBox(this))
+    , lightBox(new QCheckBox(this))
 {
-    setWindowTitle(tr("虚拟设备"));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Spacing);
-    layout->addWidget(new QLabel(tr("插入或拔出虚拟设备："), this));
+    layout->addWidget(title);
     int number = 0;
     for (const sim::Model &model : sim::Models)
         addSwitch(layout, model, ++number, plugged.contains(nameOf(model)));
     addFingers(layout);
+    addBoard(layout);
+    placing.setSingleShot(true);
+    placing.setInterval(PlacingDelay);
+    connect(&placing, &QTimer::timeout, this, &DemoDesk::standBesideHub);
+    retranslate();
 }
 
 QStringList DemoDesk::modelNames()
@@ -97,17 +110,28 @@ void DemoDesk::plug(const std::string &model, bool plugged)
         VirtualBus::instance().replug(device);
     else
         device = VirtualBus::instance().plug(model);
+    offerKeyboards();
+}
+
+void DemoDesk::offerKeyboards()
+{
+    QList<virtualhid::DevicePtr> keyboards;
+    for (const sim::Model &model : sim::Models) {
+        const auto device = devices.find(std::string(model.name));
+        if (hasKeys(model) && device != devices.end() && device->second && device->second->isPlugged())
+            keyboards.append(device->second);
+    }
+    lightBoard.setKeyboards(keyboards);
 }
 
 void DemoDesk::addFingers(QVBoxLayout *layout)
 {
-    auto *box = new QCheckBox(tr("依次按下所有按键"), this);
-    box->setObjectName(QStringLiteral("fingers"));
+    fingersBox->setObjectName(QStringLiteral("fingers"));
     layout->addSpacing(Spacing);
-    layout->addWidget(box);
+    layout->addWidget(fingersBox);
     fingerTimer.setInterval(FingerPeriod);
     connect(&fingerTimer, &QTimer::timeout, this, &DemoDesk::pressNextKey);
-    connect(box, &QCheckBox::toggled, this, [this](bool on) {
+    connect(fingersBox, &QCheckBox::toggled, this, [this](bool on) {
         nextKey = 0;
         on ? fingerTimer.start() : fingerTimer.stop();
     });
@@ -122,4 +146,62 @@ void DemoDesk::pressNextKey()
         if (device && device->isPlugged() && hasKeys(device->model()))
             device->press(position, sim::FullTravel, FingerTravel, FingerHold);
     }
+}
+
+void DemoDesk::addBoard(QVBoxLayout *layout)
+{
+    lightBox->setObjectName(QStringLiteral("light"));
+    lightBox->setChecked(true);
+    layout->addWidget(lightBox);
+    connect(lightBox, &QCheckBox::toggled, &lightBoard, &QWidget::setVisible);
+    connect(&lightBoard, &DemoBoard::closed, lightBox, [this] { lightBox->setChecked(false); });
+}
+
+void DemoDesk::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    lightBoard.setVisible(lightBox->isChecked());
+    placing.start();
+}
+
+void DemoDesk::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+void DemoDesk::retranslate()
+{
+    setWindowTitle(tr("虚拟设备"));
+    title->setText(tr("插入或拔出虚拟设备："));
+    fingersBox->setText(tr("依次按下所有按键"));
+    lightBox->setText(tr("显示键盘的灯光"));
+}
+
+bool DemoDesk::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
+        placing.start();
+    return QWidget::eventFilter(watched, event);
+}
+
+/// Puts the board and below it the desk at the right of the screen. The hub moves to the left as far as it is
+/// in their way.
+void DemoDesk::standBesideHub()
+{
+    QWidget *hub = hubWindow();
+    if (!hub || !isVisible())
+        return;
+    hub->installEventFilter(this);
+    const QRect free = hub->screen()->availableGeometry();
+    const int column = std::max(lightBoard.frameGeometry().width(), frameGeometry().width());
+    const int left = free.right() + 1 - column;
+    const int overlap = hub->frameGeometry().right() + WindowGap - left;
+    if (overlap > 0)
+        hub->move(std::max(free.left(), hub->x() - overlap), hub->y());
+    const int top = std::max(free.top(), hub->frameGeometry().top());
+    lightBoard.move(left, top);
+    const int frame = std::max(TitleRoom, lightBoard.frameGeometry().height() - lightBoard.height());
+    move(left, top + frame + lightBoard.height() + WindowGap);
 }

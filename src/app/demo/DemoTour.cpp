@@ -3,6 +3,7 @@
 #include "DemoDesk.h"
 #include "DialogDeviceConnect.h"
 #include "FrameDeviceShow.h"
+#include "HubWindow.h"
 #include "Languages.h"
 #include "ModuleLangMenu.h"
 
@@ -22,16 +23,8 @@ namespace {
 constexpr auto StepPause = 400ms;
 constexpr auto PollPeriod = 50ms;
 constexpr std::chrono::milliseconds Patience = 30s;
+constexpr int RainbowWave = 4; ///< effect number
 const qsizetype AllCards = DemoDesk::modelsWithCard().size();
-
-QWidget *hubWindow()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->objectName() == QLatin1String("MainWindow"))
-            return widget;
-    }
-    return nullptr;
-}
 
 template <typename Widget>
 Widget *inHub(const char *name)
@@ -69,6 +62,7 @@ void DemoTour::start()
     planCards();
     planLanguages();
     planNativeKeyboard();
+    planBoard();
     act([] { QCoreApplication::exit(0); });
     next();
 }
@@ -153,4 +147,16 @@ void DemoTour::planNativeKeyboard()
     act([] { DialogDeviceConnect::instance()->show(); });
     picture(QStringLiteral("console"));
     act([] { DialogDeviceConnect::instance()->hide(); });
+}
+
+/// The board comes last and alone, so that it covers nothing of the other pictures.
+void DemoTour::planBoard()
+{
+    act([this] {
+        hubWindow()->hide();
+        DialogDeviceConnect::instance()->DoSetLedEffect(RainbowWave, 0);
+        desk->board()->show();
+    });
+    picture(QStringLiteral("board"));
+    act([this] { desk->board()->hide(); });
 }

@@ -30,6 +30,7 @@ private:
     void planCards();
     void planLanguages();
     void planNativeKeyboard();
+    void planBoard();
     void planPages();
     void next();
 

@@ -3,10 +3,12 @@
 #include "KeyboardLayout.h"
 #include "KeyMatrix.h"
 
+#include <algorithm>
 #include <cmath>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
+#include <utility>
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "EffectCatalogue.h"
 #include "Look.h"
 
+#include <algorithm>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>

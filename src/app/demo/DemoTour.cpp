@@ -49,9 +49,11 @@ void pressCard(int index)
 
 } // namespace
 
-DemoTour::DemoTour(const QString &pictureFolder, DemoDesk *demoDesk, QObject *parent)
+DemoTour::DemoTour(const QString &pictureFolder, const QString &onlyLanguage, DemoDesk *demoDesk,
+                   QObject *parent)
     : QObject(parent)
     , folder(pictureFolder)
+    , language(onlyLanguage)
     , desk(demoDesk)
 {
 }
@@ -129,6 +131,8 @@ void DemoTour::planLanguages()
     act([] { inHub<QPushButton>("pushButtonLang")->click(); });
     picture(QStringLiteral("language-menu"));
     for (int i = int(Languages.size()) - 1; i >= 0; --i) {
+        if (!language.isEmpty() && language != QLatin1String(Languages[size_t(i)].locale))
+            continue;
         act([i] { hubWindow()->findChild<ModuleLangMenu *>()->selectLanguage(i); });
         picture(QStringLiteral("cards-") + QLatin1String(Languages[size_t(i)].locale));
     }

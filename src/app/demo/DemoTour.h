@@ -13,8 +13,12 @@ class DemoTour : public QObject
     Q_OBJECT
 
 public:
-    /// \a folder must exist.
-    DemoTour(const QString &folder, DemoDesk *desk, QObject *parent = nullptr);
+    /// The folder must exist. The language is a locale such as de_DE; empty for all of them on the cards, and
+    /// Chinese on the pages.
+    /// The folder must exist. The only language is a locale such as de_DE; empty stands for all of them on the
+    /// cards and Chinese on the pages.
+    DemoTour(const QString &pictureFolder, const QString &onlyLanguage, DemoDesk *demoDesk,
+             QObject *parent = nullptr);
 
     /// Begins; the application is left with code 0 at the end, with 1 if something that the tour waits for
     /// doesn't come.
@@ -35,6 +39,7 @@ private:
     void next();
 
     QString folder;
+    QString language; ///< the only one to show; empty for all
     DemoDesk *desk;
     QQueue<std::function<void()>> steps;
 };

@@ -1,4 +1,5 @@
 #include "DemoTour.h"
+#include "HubWindow.h"
 #include "KeyboardButton.h"
 #include "ModuleKeyboard.h"
 #include "PageSights.h"
@@ -21,11 +22,7 @@ QWidget *stage()
 {
     if (QWidget *dialog = QApplication::activeModalWidget())
         return dialog;
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->objectName() == QLatin1String("MainWindow"))
-            return widget;
-    }
-    return nullptr;
+    return hubWindow();
 }
 
 template <typename Widget>

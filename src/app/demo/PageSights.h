@@ -41,5 +41,7 @@ constexpr std::array PageSights{
     PageSight{"light", "^ label5 @14 @1A @08"},
     PageSight{"calibration-guide", "!pushButtonFixline"},
     PageSight{"calibration", "!pushButtonStart"},
-    PageSight{"light-again", "^ ^"},
+    PageSight{"settings", "^ !pushButtonSet"},
+    PageSight{"close-question", "^ !pushButtonExit"},
+    PageSight{"still-there", "^"},
 };

@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>Keine Tastatur angeschlossen</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>Beleuchtung der virtuellen Tastatur</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>Virtuelle Tastatur</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>Zum Drücken auf eine Taste klicken; manche Effekte reagieren darauf.</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>Beleuchtung aus</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · Helligkeit %2% · Tempo %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>Alle Tasten nacheinander drücken</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>Beleuchtung der Tastatur zeigen</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>No keyboard plugged in</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>Virtual keyboard lighting</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>Virtual keyboard</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>Click a key to press it; some effects react.</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>Lighting off</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · brightness %2% · speed %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>Press all keys one after another</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>Show the keyboard&apos;s lighting</translation>
     </message>
 </context>
 <context>

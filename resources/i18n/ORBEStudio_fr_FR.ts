@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>Aucun clavier branché</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>Éclairage du clavier virtuel</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>Clavier virtuel</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>Cliquez sur une touche pour l’enfoncer ; certains effets réagissent.</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>Éclairage éteint</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · luminosité %2% · vitesse %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>Appuyer sur toutes les touches l’une après l’autre</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>Afficher l’éclairage du clavier</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>Nessuna tastiera collegata</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>Illuminazione della tastiera virtuale</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>Tastiera virtuale</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>Fai clic su un tasto per premerlo; alcuni effetti reagiscono.</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>Illuminazione spenta</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · luminosità %2% · velocità %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>Premi tutti i tasti uno dopo l’altro</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>Mostra l’illuminazione della tastiera</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>연결된 키보드 없음</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>가상 키보드 조명</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>가상 키보드</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>키를 클릭하면 눌리며, 일부 효과는 반응합니다.</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>조명 꺼짐</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · 밝기 %2% · 속도 %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>모든 키를 차례로 누르기</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>키보드 조명 표시</translation>
     </message>
 </context>
 <context>

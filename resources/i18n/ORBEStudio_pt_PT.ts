@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>Nenhum teclado ligado</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>Iluminação do teclado virtual</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>Teclado virtual</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>Clique numa tecla para a premir; alguns efeitos reagem.</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>Iluminação desligada</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · brilho %2% · velocidade %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>Premir todas as teclas, uma após outra</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>Mostrar a iluminação do teclado</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>Inget tangentbord anslutet</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>Det virtuella tangentbordets belysning</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>Virtuellt tangentbord</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>Klicka på en tangent för att trycka ned den; vissa effekter reagerar.</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>Belysning av</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · ljusstyrka %2% · hastighet %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>Tryck på alla tangenter i tur och ordning</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>Visa tangentbordets belysning</translation>
     </message>
 </context>
 <context>

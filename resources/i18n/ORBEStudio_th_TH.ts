@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>ไม่มีคีย์บอร์ดเสียบอยู่</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>ไฟของคีย์บอร์ดเสมือน</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>คีย์บอร์ดเสมือน</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>คลิกปุ่มเพื่อกด เอฟเฟกต์บางแบบจะตอบสนอง</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>ปิดไฟแล้ว</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · ความสว่าง %2% · ความเร็ว %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>กดทุกปุ่มทีละปุ่ม</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>แสดงไฟของคีย์บอร์ด</translation>
     </message>
 </context>
 <context>

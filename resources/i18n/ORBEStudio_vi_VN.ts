@@ -73,6 +73,33 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DemoBoard</name>
+    <message>
+        <source>没有插入键盘</source>
+        <translation>Chưa cắm bàn phím</translation>
+    </message>
+    <message>
+        <source>虚拟键盘的灯光</source>
+        <translation>Đèn của bàn phím ảo</translation>
+    </message>
+    <message>
+        <source>虚拟键盘</source>
+        <translation>Bàn phím ảo</translation>
+    </message>
+    <message>
+        <source>单击按键即可按下它，部分灯效会作出反应。</source>
+        <translation>Nhấp vào phím để nhấn; một số hiệu ứng sẽ phản ứng.</translation>
+    </message>
+    <message>
+        <source>灯光已关闭</source>
+        <translation>Đèn đã tắt</translation>
+    </message>
+    <message>
+        <source>%1 · 亮度 %2% · 速度 %3%</source>
+        <translation>%1 · độ sáng %2% · tốc độ %3%</translation>
+    </message>
+</context>
+<context>
     <name>DemoDesk</name>
     <message>
         <source>虚拟设备</source>
@@ -85,6 +112,10 @@ B</translation>
     <message>
         <source>依次按下所有按键</source>
         <translation>Lần lượt nhấn tất cả các phím</translation>
+    </message>
+    <message>
+        <source>显示键盘的灯光</source>
+        <translation>Hiện đèn của bàn phím</translation>
     </message>
 </context>
 <context>

@@ -195,7 +195,7 @@ B</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation>Makroeinstellungen</translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>播放方式:</source>
@@ -372,7 +372,7 @@ B</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation>Makroeinstellungen</translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>灯效设置</source>
@@ -568,7 +568,7 @@ B</translation>
     <name>FrameMacro</name>
     <message>
         <source>宏设置</source>
-        <translation>Makroeinstellungen</translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>抬起</source>
@@ -788,7 +788,7 @@ B</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation>Makroeinstellungen</translation>
+        <translation>Makros</translation>
     </message>
 </context>
 <context>
@@ -1764,7 +1764,7 @@ B</translation>
     </message>
     <message>
         <source>宏设置</source>
-        <translation>Makroeinstellungen</translation>
+        <translation>Makros</translation>
     </message>
     <message>
         <source>功能</source>

@@ -13,8 +13,6 @@ class DemoTour : public QObject
     Q_OBJECT
 
 public:
-    /// The folder must exist. The language is a locale such as de_DE; empty for all of them on the cards, and
-    /// Chinese on the pages.
     /// The folder must exist. The only language is a locale such as de_DE; empty stands for all of them on the
     /// cards and Chinese on the pages.
     DemoTour(const QString &pictureFolder, const QString &onlyLanguage, DemoDesk *demoDesk,

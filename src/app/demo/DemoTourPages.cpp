@@ -1,4 +1,5 @@
 #include "DemoTour.h"
+#include "DialogDeviceConnect.h"
 #include "HubWindow.h"
 #include "KeyboardButton.h"
 #include "ModuleKeyboard.h"
@@ -102,6 +103,8 @@ void goOrComplain(const QString &word)
 void DemoTour::planPages()
 {
     for (const PageSight &sight : PageSights) {
+        waitFor(QStringLiteral("the end of a read"),
+                [] { return !DialogDeviceConnect::instance()->isReadingAll(); });
         const QStringList way = QString::fromLatin1(sight.way).split(u' ');
         for (const QString &word : way) {
             // A dialog holds up whoever opens it, so that is left to a turn of its own.

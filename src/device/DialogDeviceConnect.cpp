@@ -8,9 +8,9 @@
 #include "Framing.h"
 #include "ReadSequence.h"
 #include "ui_DialogDeviceConnect.h"
+#include "WholeFile.h"
 
 #include <algorithm>
-#include <QCoreApplication>
 #include <QEvent>
 #include <QSettings>
 #include <QWindow>
@@ -37,7 +37,7 @@ CommandPump::Kick kick(bool immediate)
 DialogDeviceConnect::DialogDeviceConnect(QWidget *parent)
     : QDialog(parent)
     , ui(std::make_unique<Ui::DialogDeviceConnect>())
-    , settings(new QSettings(QCoreApplication::applicationDirPath() + QStringLiteral("/config/device.ini"),
+    , settings(new QSettings(platform::workFolder(QStringLiteral("config")) + QStringLiteral("/device.ini"),
                              QSettings::IniFormat, this))
 {
     theInstance = this;

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 #include <QThread>
 #include <utility>
 
@@ -25,6 +26,9 @@ constexpr auto HeldFilePatience = 250ms; ///< a virus scanner may hold a file fo
 constexpr auto HeldFileRetry = 10ms;
 constexpr int AsideNumbers = 99;
 constexpr qsizetype DrawnLetters = 6; ///< that QSaveFile puts behind the name of its temporary file
+
+/// Belongs to the package manager, even if root runs the hub.
+constexpr QLatin1String SystemFolder("/usr/");
 
 /// Whether the letters behind a name were drawn by chance: mixed as no extension that a person gives, such as
 /// "backup" or "Backup", would be.
@@ -79,6 +83,12 @@ Outcome tryToReplace(const QString &path, QIODevice &source)
         return Outcome::Failed;
     }
     return file.commit() ? Outcome::Written : Outcome::Held;
+}
+
+/// Found out by making one: on Windows the attributes of a folder don't tell what its access list allows.
+bool takesFiles(const QString &folder)
+{
+    return QDir().mkpath(folder) && QTemporaryFile(folder + QStringLiteral("/.orbehub-XXXXXX")).open();
 }
 
 bool replaceContent(const QString &path, QIODevice &source)
@@ -176,8 +186,9 @@ void removeLeftovers(const QString &folder, const QStringList &names)
 
 QString workFolder(const QString &name)
 {
-    const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/') + name;
-    if (QDir().mkpath(beside) && QFileInfo(beside).isWritable())
+    const QString program = QCoreApplication::applicationDirPath();
+    const QString beside = program + QLatin1Char('/') + name;
+    if (!program.startsWith(SystemFolder) && takesFiles(beside))
         return beside;
     const QString own = QStringLiteral("%1/OrbeHub/%2")
                             .arg(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), name);

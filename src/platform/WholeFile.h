@@ -48,7 +48,8 @@ private:
 void removeLeftovers(const QString &folder, const QStringList &names);
 
 /// A folder for the user's files of one kind, created if it is missing: the one of that name beside the
-/// program or, where the program's folder is read-only, one among the user's own data.
+/// program or, where that can't hold new files or the program is installed for the whole system, one among
+/// the user's own data. One line in the log if there is no place for it at all.
 QString workFolder(const QString &name);
 
 } // namespace platform

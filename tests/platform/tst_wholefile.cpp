@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void keepsWhatWasNotUnderstood();
     void heldTarget();
     void leavesCopiesOfTheUser();
+    void placeOfWork();
 };
 
 void TestWholeFile::killLosesNothing()
@@ -128,6 +130,25 @@ void TestWholeFile::leavesCopiesOfTheUser()
     QStringList left = QDir(folder.path()).entryList(QDir::Files);
     std::ranges::sort(left);
     QCOMPARE(left, kept);
+}
+
+void TestWholeFile::placeOfWork()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    const QString name = QStringLiteral("placeofwork");
+    const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/') + name;
+    QDir(beside).removeRecursively();
+    QCOMPARE(platform::workFolder(name), beside);
+    QVERIFY(QDir(beside).exists() &&
+            QDir(beside).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    QVERIFY(QDir().rmdir(beside));
+    put(beside, "no folder"); // what an administrator, too, can't make files in
+
+    const QString elsewhere = platform::workFolder(name);
+    QVERIFY(elsewhere != beside);
+    QVERIFY(WholeFile(elsewhere + QStringLiteral("/work.txt")).write("kept"));
+    QVERIFY(QDir(elsewhere).removeRecursively());
+    QVERIFY(QFile::remove(beside));
 }
 
 int main(int argc, char **argv)

@@ -75,6 +75,7 @@ constexpr quint8 SetKbOption = 0x09;
 constexpr quint8 SetKeyMatrix = 0x0A;
 constexpr quint8 SetMacro = 0x0B;
 constexpr quint8 SetUserPicture = 0x0C;
+constexpr quint8 SetMusic = 0x0D;
 constexpr quint8 SetFn = 0x10;
 constexpr quint8 SetSleepTime = 0x11;
 constexpr quint8 KeyTest = 0x1B;

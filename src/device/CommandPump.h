@@ -29,6 +29,8 @@ public:
     /// handle must outlive the link or be unlinked first. The queue keeps its commands.
     void setLink(const HidHandle *handle, bool wireless);
     bool isConnected() const;
+    /// Whether it waits to send, or for an answer.
+    bool isStepArmed() const { return sendTimer.isActive() || armedSteps > 0; }
 
     /// Queues a bare command and kicks the pump. Dropped without a word while there is no link; an empty
     /// command is dropped too.
@@ -62,7 +64,6 @@ Q_SIGNALS:
 private:
     void pumpStep();
     void armRead(std::chrono::milliseconds delay);
-    bool isStepArmed() const { return sendTimer.isActive() || armedSteps > 0; }
     void beginRun();
     QByteArray takeReply();
     void send(const QByteArray &report);

@@ -104,6 +104,7 @@ void DialogDeviceConnect::startTimers()
     inputPollTimer.setTimerType(Qt::PreciseTimer);
     connect(&inputPollTimer, &QTimer::timeout, this, &DialogDeviceConnect::pollInput);
     inputPollTimer.start(InputPollPeriod);
+    startMusicTimer();
 }
 
 void DialogDeviceConnect::changeEvent(QEvent *event)

@@ -3,6 +3,7 @@
 #include "CommandPump.h"
 #include "DeviceCache.h"
 #include "HidHandle.h"
+#include "LoopbackCapture.h"
 
 #include <initializer_list>
 #include <memory>
@@ -224,6 +225,8 @@ private:
     };
     void writeRow(quint8 rowCommand, std::initializer_list<RowByte> bytes);
     void calibrationTick();
+    void startMusicTimer();
+    void musicTick();
 
     void pollInput();
     void takeKeyTestSample(const QByteArray &report);
@@ -241,6 +244,8 @@ private:
     DeviceCache cache;
     QTimer inputPollTimer;
     QTimer hotplugTimer;
+    QTimer musicTimer;
+    LoopbackCapture capture;
     QTimer *calibrationTimer = nullptr; ///< created at the first calibration
     quint64 calibrationTicks = 0;       ///< of all calibrations
     QString deviceIdText;

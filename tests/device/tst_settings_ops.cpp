@@ -189,7 +189,7 @@ void TestSettingsOperations::musicFollowsTheEffect()
     connection->DoSetLedEffect(5, 0);
     QVERIFY(!connection->isMusicOn());
     connection->DoSetLedEffect(22, 0);
-    shared->settle();
+    QTRY_COMPARE(shared->keyboard->light().keys.effect, sim::MusicEffect);
     shared->readDone.clear();
     connection->DoReadAll();
     QVERIFY(!connection->isMusicOn());

@@ -2,10 +2,10 @@
 ; to. Everything the user makes lies there too (macro, work, config/device.ini), so removing and updating leave what
 ; isn't known to be the program's own.
 ;
-; packaging/windows/build passes VERSION, STAGE (the laid out program), OUTPUT, ICON, PANEL (a picture)
-; and FILES (what the uninstaller deletes).
+; packaging/windows/build passes VERSION, STAGE (the laid out program), LISTS (folder of lay.nsh and delete.nsh, made
+; of what is there), ICON, PANEL (a picture) and OUTPUT.
 ;
-;   setup /S [/D=folder]      installs silently; ends with 2 while the hub runs
+;   setup /S [/D=folder]        installs silently; ends with 2 while the hub runs
 ;   uninstall /S [/REMOVEDATA]  removes silently, on demand with macros, light works and settings
 Unicode true
 Target amd64-unicode
@@ -113,7 +113,7 @@ Section OrbeHub
     ${EndIf}
 
     SetOutPath "$INSTDIR"
-    File /r /x enumsetting.ini /x CustomDeviceList.json "${STAGE}/*"
+    !include "${LISTS}/lay.nsh"
     SetOutPath "$INSTDIR\config"
     !insertmacro LayEditable enumsetting.ini
     !insertmacro LayEditable CustomDeviceList.json
@@ -140,7 +140,7 @@ Section "un.OrbeHub"
     SetOutPath "$TEMP" ; a folder that is the working folder can't be removed
     !insertmacro DeleteUntouched enumsetting.ini
     !insertmacro DeleteUntouched CustomDeviceList.json
-    !include "${FILES}"
+    !include "${LISTS}/delete.nsh"
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
     ${GetParameters} $0

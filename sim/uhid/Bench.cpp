@@ -13,11 +13,20 @@ namespace uhid {
 namespace {
 
 constexpr std::chrono::milliseconds TravelTime{60}; ///< of a pressed key, each way
+constexpr std::string_view UsbPrefix = "usb:";
 
 /// A number out of the arguments, or \a fallback if it isn't there. Throws std::invalid_argument.
 int numberAt(const std::vector<std::string> &arguments, std::size_t index, int fallback)
 {
     return index < arguments.size() ? std::stoi(arguments[index], nullptr, 0) : fallback;
+}
+
+int numberBelow(int limit, const std::vector<std::string> &arguments, std::size_t index)
+{
+    const int number = numberAt(arguments, index, 0);
+    if (number < 0 || number >= limit)
+        throw std::invalid_argument{"out of range: " + arguments[index]};
+    return number;
 }
 
 } // namespace
@@ -33,7 +42,7 @@ struct Bench::Command
 std::span<const Bench::Command> Bench::commands()
 {
     static constexpr Command Commands[] = {
-        {"plug", "plug MODEL                            make a device of that model", 1,
+        {"plug", "plug [usb:]MODEL                      make a device of that model", 1,
          [](Bench &bench, const Arguments &arguments) { bench.plug(arguments[0]); }},
         {"unplug", "unplug NUMBER                         take a device away", 1,
          [](Bench &bench, const Arguments &arguments) { bench.unplug(arguments); }},
@@ -43,6 +52,12 @@ std::span<const Bench::Command> Bench::commands()
          [](Bench &bench, const Arguments &arguments) { bench.battery(arguments); }},
         {"status", "status                                list the devices and what they received", 0,
          [](Bench &bench, const Arguments &) { bench.status(); }},
+        {"state", "state NUMBER                          what a keyboard is doing", 1,
+         [](Bench &bench, const Arguments &arguments) { bench.state(arguments); }},
+        {"key", "key NUMBER LAYER POSITION             what a key does in the active profile, as hex", 3,
+         [](Bench &bench, const Arguments &arguments) { bench.key(arguments); }},
+        {"value", "value NUMBER TABLE POSITION           a key's value in a magnetism table", 3,
+         [](Bench &bench, const Arguments &arguments) { bench.value(arguments); }},
     };
     return Commands;
 }
@@ -72,7 +87,7 @@ bool Bench::run(const std::string &line)
             }
         }
         throw std::invalid_argument{"not understood: " + line};
-    } catch (const std::logic_error &error) { // also what std::stoi throws
+    } catch (const std::exception &error) { // also what std::stoi throws
         out << "error " << error.what() << std::endl;
     }
     return true;
@@ -80,9 +95,12 @@ bool Bench::run(const std::string &line)
 
 void Bench::plug(const std::string &model)
 {
-    const sim::Model *row = sim::findModel(model);
+    const bool usb = model.starts_with(UsbPrefix);
+    const sim::Model *row = sim::findModel(usb ? model.substr(UsbPrefix.size()) : model);
     if (!row)
         throw std::invalid_argument{"no such model: " + model};
+    if (usb && row->channelList().back() == sim::Channel::Bluetooth)
+        throw std::invalid_argument{"a device without a cable: " + model};
     const unsigned number = ++lastNumber;
     const auto ready = [this, number, row] { out << "ready " << number << ' ' << row->name << std::endl; };
     const auto log = [this, number](sim::Channel channel, bool feature, sim::ByteView report) {
@@ -94,7 +112,7 @@ void Bench::plug(const std::string &model)
             out << ' ' << std::setw(2) << int{byte};
         out << std::dec << std::endl;
     };
-    devices[number] = std::make_unique<PluggedDevice>(number, *row, ready, log);
+    devices[number] = std::make_unique<PluggedDevice>(number, *row, usb ? Way::Usb : Way::Uhid, ready, log);
 }
 
 void Bench::unplug(const Arguments &arguments)
@@ -130,6 +148,34 @@ void Bench::status()
     out << "end" << std::endl;
 }
 
+void Bench::state(const Arguments &arguments)
+{
+    const sim::Firmware &firmware = firmwareOf(arguments);
+    out << "state " << arguments[0] << " profile " << int{firmware.state.profile} << " keytest "
+        << firmware.sensors.keyTest() << " calibrating " << firmware.sensors.calibrating() << " battery "
+        << int{firmware.state.battery} << std::endl;
+}
+
+void Bench::key(const Arguments &arguments)
+{
+    const sim::KeyboardState &state = firmwareOf(arguments).state;
+    const int layer = numberBelow(sim::KeyMatrices::Layers, arguments, 1);
+    const int position = numberBelow(sim::KeyMatrices::Positions, arguments, 2);
+    out << "key " << arguments[0] << ' ' << layer << ' ' << position << std::hex << std::setfill('0');
+    for (const sim::Byte byte : state.keys.key(state.profile, layer, position))
+        out << ' ' << std::setw(2) << int{byte};
+    out << std::dec << std::endl;
+}
+
+void Bench::value(const Arguments &arguments)
+{
+    const int table = numberBelow(256, arguments, 1);
+    const int position = numberBelow(sim::KeyMatrices::Positions, arguments, 2);
+    out << "value " << arguments[0] << ' ' << table << ' ' << position << ' '
+        << firmwareOf(arguments).state.active().magnetism.value(static_cast<sim::Byte>(table), position)
+        << std::endl;
+}
+
 PluggedDevice &Bench::deviceOf(const Arguments &arguments)
 {
     const auto device = devices.find(static_cast<unsigned>(numberAt(arguments, 0, 0)));
@@ -150,7 +196,7 @@ bool Bench::wait(int commandFile)
     std::vector<pollfd> files{{commandFile, POLLIN, 0}};
     std::vector<KernelDevice *> kernelDevices;
     for (const auto &[number, plugged] : devices) {
-        for (const auto &[channel, kernelDevice] : plugged->channels()) {
+        for (const auto &kernelDevice : plugged->links()) {
             files.push_back({kernelDevice->descriptor(), POLLIN, 0});
             kernelDevices.push_back(kernelDevice.get());
         }

@@ -15,6 +15,8 @@ public:
 
     /// Runs one command line; false after "quit". What is wrong with it is said on the output.
     bool run(const std::string &line);
+    /// Plugs a model as HID devices, or as a USB device if its name has "usb:" before it. Throws
+    /// std::invalid_argument for a name that isn't known, std::system_error if the kernel refuses.
     void plug(const std::string &model);
 
     /// Waits for the kernel, \a commands becoming readable, or the next input report, and does what is due.
@@ -33,6 +35,9 @@ private:
     void press(const Arguments &arguments);
     void battery(const Arguments &arguments);
     void status();
+    void state(const Arguments &arguments);
+    void key(const Arguments &arguments);
+    void value(const Arguments &arguments);
     PluggedDevice &deviceOf(const Arguments &arguments);
     sim::Firmware &firmwareOf(const Arguments &arguments);
     int pollTimeout() const;

@@ -1,147 +1,22 @@
 #include "KernelDevice.h"
 
-#include "ReportDescriptor.h"
-
-#include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
-#include <linux/input.h>
-#include <linux/uhid.h>
 #include <system_error>
-#include <unistd.h>
 
 namespace uhid {
-namespace {
 
-[[noreturn]] void fail(const char *what)
-{
-    throw std::system_error{errno, std::generic_category(), what};
-}
-
-/// Copies a text into a field of the kernel's, cut to fit with its final 0.
-template <std::size_t Size>
-void copyText(__u8 (&field)[Size], std::string_view text)
-{
-    std::copy_n(text.begin(), std::min(text.size(), Size - 1), field);
-}
-
-uhid_event createEvent(const Description &description)
-{
-    uhid_event event{};
-    event.type = UHID_CREATE2;
-    uhid_create2_req &create = event.u.create2;
-    copyText(create.name, description.model.product);
-    copyText(create.phys, description.path);
-    copyText(create.uniq, description.serial);
-    const sim::Bytes descriptor = reportDescriptor(description.channel);
-    create.rd_size = static_cast<__u16>(descriptor.size());
-    std::ranges::copy(descriptor, create.rd_data);
-    create.bus = description.bluetooth ? BUS_BLUETOOTH : BUS_USB;
-    create.vendor = description.model.vendorId;
-    create.product = description.model.productId;
-    create.version = description.model.firmware;
-    return event;
-}
-
-} // namespace
-
-KernelDevice::KernelDevice(const Description &description, Requests deviceRequests)
-    : channel(description.channel)
-    , requests(std::move(deviceRequests))
-    , file(::open("/dev/uhid", O_RDWR | O_CLOEXEC | O_NONBLOCK))
-{
-    if (file < 0)
-        fail("/dev/uhid");
-    try {
-        write(createEvent(description));
-    } catch (...) {
-        ::close(file);
-        throw;
-    }
-}
-
-KernelDevice::~KernelDevice()
-{
-    ::close(file); // the kernel takes the device away
-}
-
-void KernelDevice::handleEvent()
-{
-    uhid_event event{};
-    if (::read(file, &event, sizeof event) < 0) {
-        if (errno == EAGAIN || errno == EINTR)
-            return;
-        fail("read from /dev/uhid");
-    }
-    switch (event.type) {
-    case UHID_START:
-        requests.started();
-        break;
-    case UHID_OUTPUT:
-        take(event.u.output.rtype == UHID_FEATURE_REPORT, {event.u.output.data, event.u.output.size});
-        break;
-    case UHID_SET_REPORT:
-        answerSet(event);
-        break;
-    case UHID_GET_REPORT:
-        answerGet(event);
-        break;
-    default:
-        break;
-    }
-}
-
-/// Hands a written report on. The kernel passes an unnumbered report with or without its leading 0,
-/// depending on the call it came through.
-bool KernelDevice::take(bool feature, sim::ByteView data)
+sim::Bytes withReportId(const sim::ChannelInfo &channel, bool feature, sim::ByteView data)
 {
     const std::size_t payload = feature ? channel.feature : channel.output;
     sim::Bytes report{data.begin(), data.end()};
     if (channel.reportId == 0 && report.size() == payload)
         report.insert(report.begin(), 0);
-    return requests.written(feature, report);
+    return report;
 }
 
-void KernelDevice::answerSet(const uhid_event &event)
+void failSystemCall(const char *what)
 {
-    const uhid_set_report_req &request = event.u.set_report;
-    const bool taken = take(request.rtype == UHID_FEATURE_REPORT, {request.data, request.size});
-    uhid_event reply{};
-    reply.type = UHID_SET_REPORT_REPLY;
-    reply.u.set_report_reply.id = request.id;
-    reply.u.set_report_reply.err = taken ? 0 : EIO;
-    write(reply);
-}
-
-void KernelDevice::answerGet(const uhid_event &event)
-{
-    uhid_event reply{};
-    reply.type = UHID_GET_REPORT_REPLY;
-    uhid_get_report_reply_req &answer = reply.u.get_report_reply;
-    answer.id = event.u.get_report.id;
-    const auto report =
-        event.u.get_report.rtype == UHID_FEATURE_REPORT ? requests.featureRead() : std::nullopt;
-    answer.err = report ? 0 : EIO;
-    if (report) {
-        answer.size = static_cast<__u16>(std::min<std::size_t>(report->size(), UHID_DATA_MAX));
-        std::copy_n(report->begin(), answer.size, answer.data);
-    }
-    write(reply);
-}
-
-void KernelDevice::sendInput(sim::ByteView report)
-{
-    uhid_event event{};
-    event.type = UHID_INPUT2;
-    event.u.input2.size = static_cast<__u16>(std::min<std::size_t>(report.size(), UHID_DATA_MAX));
-    std::copy_n(report.begin(), event.u.input2.size, event.u.input2.data);
-    write(event);
-}
-
-void KernelDevice::write(const uhid_event &event)
-{
-    if (::write(file, &event, sizeof event) < 0)
-        fail("write to /dev/uhid");
+    throw std::system_error{errno, std::generic_category(), what};
 }
 
 } // namespace uhid

@@ -1,39 +1,56 @@
 #include "PluggedDevice.h"
 
+#include "UhidDevice.h"
+#include "UsbDevice.h"
+
 #include <algorithm>
 
 namespace uhid {
 
-PluggedDevice::PluggedDevice(unsigned number, const sim::Model &model, std::function<void()> onReady,
+PluggedDevice::PluggedDevice(unsigned number, const sim::Model &model, Way way, std::function<void()> onReady,
                              Log onReport)
     : virtualDevice(sim::makeDevice(model))
     , ready(std::move(onReady))
     , log(std::move(onReport))
 {
-    const std::string place = "orbe-uhid/" + std::to_string(number) + '/';
     for (const sim::Channel channel : model.channelList()) {
+        if (const std::size_t size = sim::channelInfo(channel).feature; size > 0)
+            features[channel] = sim::Bytes(size + 1); // zeros until the first command
+    }
+    if (way == Way::Uhid) {
+        plugUhid(number);
+        return;
+    }
+    kernelDevices.push_back(std::make_unique<UsbDevice>(model, std::to_string(number), requests()));
+    for (const sim::Channel channel : model.channelList())
+        linkOf[channel] = kernelDevices.back().get();
+}
+
+void PluggedDevice::plugUhid(unsigned number)
+{
+    const std::string place = "orbe-uhid/" + std::to_string(number) + '/';
+    for (const sim::Channel channel : virtualDevice->model().channelList()) {
         const sim::ChannelInfo &info = sim::channelInfo(channel);
-        if (info.feature > 0)
-            features[channel] = sim::Bytes(info.feature + 1u); // zeros until the first command
         const Description description{.channel = info,
                                       .model = virtualDevice->model(),
                                       .path = place + std::string{info.name},
                                       .serial = std::to_string(number),
                                       .bluetooth = virtualDevice->has(sim::Channel::Bluetooth)};
-        kernelDevices[channel] = std::make_unique<KernelDevice>(description, requestsOf(channel));
+        kernelDevices.push_back(std::make_unique<UhidDevice>(description, requests()));
+        linkOf[channel] = kernelDevices.back().get();
     }
 }
 
-Requests PluggedDevice::requestsOf(sim::Channel channel)
+Requests PluggedDevice::requests()
 {
     return {.started =
                 [this] {
                     if (++started == kernelDevices.size())
                         ready();
                 },
-            .written = [this, channel](bool feature,
-                                       sim::ByteView report) { return receive(channel, feature, report); },
-            .featureRead = [this, channel] { return features[channel]; }};
+            .written = [this](sim::Channel channel, bool feature,
+                              sim::ByteView report) { return receive(channel, feature, report); },
+            .featureRead = [this](sim::Channel channel) { return features[channel]; }};
 }
 
 bool PluggedDevice::receive(sim::Channel channel, bool feature, sim::ByteView report)
@@ -55,12 +72,12 @@ void PluggedDevice::sendDue(sim::TimePoint now)
 {
     for (const Pending &input : pending) {
         if (input.due <= now)
-            kernelDevices.at(input.channel)->sendInput(input.report);
+            linkOf.at(input.channel)->sendInput(input.channel, input.report);
     }
     std::erase_if(pending, [now](const Pending &input) { return input.due <= now; });
-    for (const auto &[channel, kernelDevice] : kernelDevices) {
+    for (const auto &[channel, link] : linkOf) {
         while (const auto report = virtualDevice->takeInput(channel, now))
-            kernelDevice->sendInput(*report);
+            link->sendInput(channel, *report);
     }
 }
 
@@ -70,7 +87,7 @@ std::optional<sim::TimePoint> PluggedDevice::nextDue() const
     const auto consider = [&next](sim::TimePoint due) { next = next ? std::min(*next, due) : due; };
     for (const Pending &input : pending)
         consider(input.due);
-    for (const auto &[channel, kernelDevice] : kernelDevices) {
+    for (const auto &[channel, link] : linkOf) {
         if (const auto due = virtualDevice->nextInput(channel))
             consider(*due);
     }

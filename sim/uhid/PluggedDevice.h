@@ -5,20 +5,28 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 
 namespace uhid {
 
-/// A virtual device with one kernel device per channel. One thread.
+/// How a device comes to the kernel.
+enum class Way {
+    Uhid, ///< each channel as a HID device of its own
+    Usb   ///< at a virtual USB host
+};
+
+/// A virtual device and what the kernel makes of it. One thread.
 class PluggedDevice
 {
 public:
     using Log = std::function<void(sim::Channel channel, bool feature, sim::ByteView report)>;
 
     /// \a ready is called once the kernel has started every channel, \a log for each report that comes in.
-    PluggedDevice(unsigned number, const sim::Model &model, std::function<void()> ready, Log log);
+    /// Throws std::system_error if the kernel refuses.
+    PluggedDevice(unsigned number, const sim::Model &model, Way way, std::function<void()> ready, Log log);
 
     sim::Device &device() { return *virtualDevice; }
-    const std::map<sim::Channel, std::unique_ptr<KernelDevice>> &channels() const { return kernelDevices; }
+    const std::vector<std::unique_ptr<KernelDevice>> &links() const { return kernelDevices; }
     unsigned reports() const { return received; }
 
     /// Sends the input reports that are due.
@@ -34,7 +42,8 @@ private:
         sim::Bytes report;
     };
 
-    Requests requestsOf(sim::Channel channel);
+    Requests requests();
+    void plugUhid(unsigned number);
     bool receive(sim::Channel channel, bool feature, sim::ByteView report);
 
     std::unique_ptr<sim::Device> virtualDevice;
@@ -44,7 +53,8 @@ private:
     unsigned received = 0;
     std::vector<Pending> pending;
     std::map<sim::Channel, std::optional<sim::Bytes>> features;
-    std::map<sim::Channel, std::unique_ptr<KernelDevice>> kernelDevices;
+    std::vector<std::unique_ptr<KernelDevice>> kernelDevices;
+    std::map<sim::Channel, KernelDevice *> linkOf;
 };
 
 } // namespace uhid

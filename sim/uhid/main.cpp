@@ -1,4 +1,4 @@
-// Virtual keyboards as HID devices of the kernel.
+// Virtual keyboards as HID or USB devices of the kernel.
 
 #include "Bench.h"
 
@@ -43,10 +43,12 @@ bool runCommands(uhid::Bench &bench, std::string &rest)
 
 void printUsage()
 {
-    std::cout << "Usage: orbe-uhid [--stay] [--verbose] [MODEL...]\n\n"
-                 "Makes virtual keyboards real HID devices through /dev/uhid, until standard input ends.\n\n"
-                 "  --stay     take no commands and run until a signal\n"
-                 "  --verbose  print each report that comes in\n\n";
+    std::cout
+        << "Usage: orbe-uhid [--stay] [--verbose] [MODEL...]\n\n"
+           "Makes virtual keyboards real devices of the kernel, until standard input ends: HID devices\n"
+           "through /dev/uhid, or with usb: before the model a USB device at the module vhci-hcd.\n\n"
+           "  --stay     take no commands and run until a signal\n"
+           "  --verbose  print each report that comes in\n\n";
     uhid::Bench::printHelp(std::cout);
 }
 

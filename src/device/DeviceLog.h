@@ -4,3 +4,5 @@
 
 /// The connection, its handles and its files.
 Q_DECLARE_LOGGING_CATEGORY(lcDevice)
+/// What the machine plays.
+Q_DECLARE_LOGGING_CATEGORY(lcAudio)

@@ -8,8 +8,8 @@
 /// it is the monitor of the default output that is captured, whichever output that becomes; never a
 /// microphone. If there is nothing to capture a critical message says so once, and the samples stay silent.
 ///
-/// Construct and destroy on one thread. Neither takes long: the device is opened and closed on a thread of its
-/// own, and one whose sound server doesn't answer is left behind.
+/// Construct and destroy on one thread. Neither takes long: the device is opened and closed on a thread of
+/// its own, and one whose sound server doesn't answer is left behind.
 class LoopbackCapture
 {
 public:

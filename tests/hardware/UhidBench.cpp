@@ -14,10 +14,13 @@ QByteArray number(int value)
 
 } // namespace
 
-UhidBench::UhidBench(const QString &program)
+UhidBench::UhidBench(const QString &program, const QString &trafficFile)
+    : traffic(trafficFile)
 {
+    if (!traffic.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        qWarning() << "Can't write" << trafficFile;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(program, QStringList());
+    process.start(program, {QStringLiteral("--verbose")});
     process.waitForStarted(Patience);
 }
 
@@ -37,6 +40,7 @@ QByteArray UhidBench::ask(const QByteArray &command, const QByteArray &answer)
             break;
         while (process.canReadLine()) {
             const QByteArray line = process.readLine().trimmed();
+            traffic.write(line + '\n');
             if (line.startsWith(answer))
                 return line.mid(answer.size()).trimmed();
             if (line.startsWith("error")) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QProcess>
 
 /// The program that makes virtual keyboards devices of the kernel, and what it tells of them. Their state is
@@ -8,8 +9,8 @@
 class UhidBench
 {
 public:
-    /// Starts \a program, which ends with the object.
-    explicit UhidBench(const QString &program);
+    /// Starts \a program, which ends with the object. What the devices receive is noted in a file.
+    UhidBench(const QString &program, const QString &trafficFile);
     ~UhidBench();
 
     /// Plugs a model ("usb:" before it for a USB device) and waits for the kernel to have it; 0 if that
@@ -33,4 +34,5 @@ private:
     QByteArray ask(const QByteArray &command, const QByteArray &answer);
 
     QProcess process;
+    QFile traffic;
 };

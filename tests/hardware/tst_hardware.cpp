@@ -77,7 +77,7 @@ private:
     void testKeys();
     void calibrate();
 
-    UhidBench bench{environment("ORBE_BENCH")};
+    UhidBench bench{environment("ORBE_BENCH"), environment("ORBE_TRAFFIC")};
     QList<int> plugged;
     int device = 0; ///< the one that is open
     QByteArray way;

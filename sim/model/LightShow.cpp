@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 namespace sim {
@@ -127,10 +126,11 @@ void LightShow::noteStrokes(const KeySet &pressed)
     }
     held = pressed;
     KeySet down = pressed;
-    for (Stroke &stroke : std::views::reverse(strokes)) { // of several strokes of a key the last one is held
-        const auto position = static_cast<std::size_t>(stroke.place->position);
+    for (auto stroke = strokes.rbegin(); stroke != strokes.rend();
+         ++stroke) { // of several of a key the last is held
+        const auto position = static_cast<std::size_t>(stroke->place->position);
         if (down[position])
-            stroke.end = keyPhase;
+            stroke->end = keyPhase;
         down.reset(position);
     }
     std::erase_if(strokes, [this](const Stroke &stroke) { return keyPhase - stroke.end > StrokeLife; });

@@ -57,7 +57,7 @@ B</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation>Der Weg vom Anschlag bis zum Anheben heißt „Totzone“. Sie verhindert Aussetzer des Magnetschalters durch Störeinflüsse. Stellen Sie sie nach Bedarf ein; in diesem Bereich wird nichts ausgelöst.</translation>
+        <translation>Der Weg vom Anschlag bis zum Anheben heißt „Totzone“. Sie verhindert, dass Störungen den Magnet-Switch aussetzen lassen. Stell sie nach Bedarf ein; in diesem Bereich wird nichts ausgelöst.</translation>
     </message>
     <message>
         <source>设置</source>
@@ -138,7 +138,7 @@ B</translation>
     </message>
     <message>
         <source>分钟</source>
-        <translation>Min.</translation>
+        <translation>min</translation>
     </message>
     <message>
         <source>蓝牙深度睡眠时间</source>
@@ -150,7 +150,7 @@ B</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 Min.</translation>
+        <translation>%1 min</translation>
     </message>
 </context>
 <context>
@@ -187,7 +187,7 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Grundzeichen</translation>
+        <translation>Grundtasten</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
@@ -247,7 +247,7 @@ B</translation>
     </message>
     <message>
         <source>前移</source>
-        <translation>Vor</translation>
+        <translation>Vorwärts</translation>
     </message>
     <message>
         <source>后移</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>Nach links</translation>
+        <translation>Rad links</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>Nach rechts</translation>
+        <translation>Rad rechts</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>Nach oben</translation>
+        <translation>Rad hoch</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>Nach unten</translation>
+        <translation>Rad runter</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Grundzeichen</translation>
+        <translation>Grundtasten</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Zusatzzeichen</translation>
+        <translation>Zusatztasten</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -306,7 +306,7 @@ B</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation>Bestätigen</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
@@ -321,7 +321,7 @@ B</translation>
     <name>FrameAbout</name>
     <message>
         <source>关于</source>
-        <translation>Über</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>设备名称：Orbe 7090</source>
@@ -368,7 +368,7 @@ B</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation>Magnetschalter-Einstellungen</translation>
+        <translation>Magnet-Switches</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -380,7 +380,7 @@ B</translation>
     </message>
     <message>
         <source>关于</source>
-        <translation>Über</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>用户</source>
@@ -392,19 +392,19 @@ B</translation>
     </message>
     <message>
         <source>板载 1</source>
-        <translation>Onboard 1</translation>
+        <translation>Profil 1</translation>
     </message>
     <message>
         <source>板载 2</source>
-        <translation>Onboard 2</translation>
+        <translation>Profil 2</translation>
     </message>
     <message>
         <source>板载 3</source>
-        <translation>Onboard 3</translation>
+        <translation>Profil 3</translation>
     </message>
     <message>
         <source>板载 4</source>
-        <translation>Onboard 4</translation>
+        <translation>Profil 4</translation>
     </message>
     <message>
         <source>对码</source>
@@ -454,7 +454,7 @@ B</translation>
     </message>
     <message>
         <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
-        <translation>*Klicken Sie zuerst oben auf eine Taste und wählen Sie dann im Dialog eine Kombination, ein Makro, eine System- oder eine Mausfunktion</translation>
+        <translation>*Klick zuerst oben auf eine Taste und wähle dann im Dialog eine Kombination, ein Makro, eine System- oder eine Mausfunktion</translation>
     </message>
     <message>
         <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
@@ -462,15 +462,15 @@ B</translation>
     </message>
     <message>
         <source>动态键程(DKS)</source>
-        <translation>Dynamischer Anschlag (DKS)</translation>
+        <translation>Dynamic Keystroke (DKS)</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Halten/Tippen (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation>Umschalter (TGL)</translation>
+        <translation>Toggle (TGL)</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
@@ -489,7 +489,7 @@ B</translation>
     </message>
     <message>
         <source>我的作品</source>
-        <translation>Meine Werke</translation>
+        <translation>Meine Designs</translation>
     </message>
     <message>
         <source>颜色:</source>
@@ -549,7 +549,7 @@ B</translation>
     </message>
     <message>
         <source>还没有作品，给按键上色后点击“保存”</source>
-        <translation>Noch keine Werke. Färbe Tasten ein und drücke „Speichern“</translation>
+        <translation>Noch keine Designs. Färbe Tasten ein und drücke „Speichern“</translation>
     </message>
     <message>
         <source>提示</source>
@@ -557,11 +557,11 @@ B</translation>
     </message>
     <message>
         <source>确认要删除此作品吗？</source>
-        <translation>Dieses Werk löschen?</translation>
+        <translation>Dieses Design löschen?</translation>
     </message>
     <message>
         <source>我的作品%1</source>
-        <translation>Mein Werk %1</translation>
+        <translation>Mein Design %1</translation>
     </message>
 </context>
 <context>
@@ -580,7 +580,7 @@ B</translation>
     </message>
     <message>
         <source>延迟</source>
-        <translation>Pause</translation>
+        <translation>Verzögerung</translation>
     </message>
     <message>
         <source>开始录制</source>
@@ -600,7 +600,7 @@ B</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation>Feste Pause setzen (ms):</translation>
+        <translation>Feste Verzögerung (ms):</translation>
     </message>
     <message>
         <source>保存</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Hubeinstellungen</translation>
+        <translation>Auslösepunkt</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -643,7 +643,7 @@ B</translation>
     </message>
     <message>
         <source>轴体设置</source>
-        <translation>Schaltertyp</translation>
+        <translation>Switch-Typ</translation>
     </message>
     <message>
         <source>增稳算法</source>
@@ -651,7 +651,7 @@ B</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>Testbereich</translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -683,11 +683,11 @@ B</translation>
     </message>
     <message>
         <source>机械轴</source>
-        <translation>Mechanischer Schalter</translation>
+        <translation>Mechanischer Switch</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Kaihua-Schalter</translation>
+        <translation>Kailh-Switch</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -708,7 +708,7 @@ B</translation>
     <message>
         <source>矮磁轴</source>
         <extracomment>冠泰轴</extracomment>
-        <translation>Flacher Magnetschalter</translation>
+        <translation>Flacher Magnet-Switch</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
@@ -716,7 +716,7 @@ B</translation>
     </message>
     <message>
         <source>白泽轴</source>
-        <translation>Baize-Schalter</translation>
+        <translation>Baize-Switch</translation>
     </message>
     <message>
         <source>自定义</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Tastenhub (global)</translation>
+        <translation>Auslösepunkt (global)</translation>
     </message>
 </context>
 <context>
@@ -742,7 +742,7 @@ B</translation>
     </message>
     <message>
         <source>开机时自动开启本程序</source>
-        <translation>Programm beim Systemstart ausführen</translation>
+        <translation>Programm beim Systemstart starten</translation>
     </message>
     <message>
         <source>确定</source>
@@ -776,15 +776,15 @@ B</translation>
     </message>
     <message>
         <source>动态键程</source>
-        <translation>Dynamischer Anschlag</translation>
+        <translation>Dynamic Keystroke</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Halten/Tippen</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
-        <translation>Umschalter</translation>
+        <translation>Toggle</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -807,7 +807,7 @@ B</translation>
     </message>
     <message>
         <source>按下任意按键。无线连接下没有实时行程数据。</source>
-        <translation>Drücken Sie eine Taste. Über Funk gibt es keine Live-Daten zum Tastenweg.</translation>
+        <translation>Drücke eine beliebige Taste. Über Funk gibt es keine Live-Daten zum Tastenhub.</translation>
     </message>
 </context>
 <context>
@@ -829,7 +829,7 @@ B</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation>Drücken Sie nacheinander jede Taste sanft bis zum Anschlag und halten Sie sie mindestens 1 Sekunde, bis sie orange wird (Taste kalibriert). Lassen Sie keine aus; Tasten dürfen erneut gedrückt werden. Bei Funkverbindung wird die Zahl der kalibrierten Tasten nicht angezeigt. Ziehen Sie während der Kalibrierung das Kabel nicht ab.</translation>
+        <translation>Drücke nacheinander jede Taste sanft bis zum Anschlag und halte sie mindestens 1 Sekunde, bis sie orange wird (Taste kalibriert). Lass keine aus; Tasten dürfen erneut gedrückt werden. Über Funk wird die Zahl der kalibrierten Tasten nicht angezeigt. Zieh während der Kalibrierung das Kabel nicht ab.</translation>
     </message>
     <message>
         <source>取消</source>
@@ -848,7 +848,7 @@ B</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation>Drücken Sie nacheinander jede Taste sanft bis zum Anschlag und halten Sie sie mindestens 1 Sekunde, bis sie orange wird (Taste kalibriert). Lassen Sie keine aus; Tasten dürfen erneut gedrückt werden. Bei Funkverbindung wird die Zahl der kalibrierten Tasten nicht angezeigt. Ziehen Sie während der Kalibrierung das Kabel nicht ab.</translation>
+        <translation>Drücke nacheinander jede Taste sanft bis zum Anschlag und halte sie mindestens 1 Sekunde, bis sie orange wird (Taste kalibriert). Lass keine aus; Tasten dürfen erneut gedrückt werden. Über Funk wird die Zahl der kalibrierten Tasten nicht angezeigt. Zieh während der Kalibrierung das Kabel nicht ab.</translation>
     </message>
     <message>
         <source>取消</source>
@@ -882,7 +882,7 @@ B</translation>
     </message>
     <message>
         <source>延迟</source>
-        <translation>Pause</translation>
+        <translation>Verzögerung</translation>
     </message>
     <message>
         <source>左键</source>
@@ -929,7 +929,7 @@ B</translation>
     </message>
     <message>
         <source>确定要退出 ORBE 驱动程序？</source>
-        <translation>Möchten Sie den ORBE-Treiber wirklich beenden?</translation>
+        <translation>ORBE-Treiber wirklich beenden?</translation>
     </message>
     <message>
         <source>正在搜索设备</source>
@@ -1096,7 +1096,7 @@ B</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation>Strom</translation>
+        <translation>Fließend</translation>
     </message>
     <message>
         <source>霓虹</source>
@@ -1178,11 +1178,11 @@ B</translation>
     </message>
     <message>
         <source>聚合</source>
-        <translation>Zusammenlauf</translation>
+        <translation>Bündelung</translation>
     </message>
     <message>
         <source>川流不息</source>
-        <translation>Strom</translation>
+        <translation>Fließend</translation>
     </message>
     <message>
         <source>霓虹</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Lautstärke -</translation>
+        <translation>Lautstärke −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>Arbeitsplatz</translation>
+        <translation>Dieser PC</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1396,11 +1396,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Helligkeit +</translation>
+        <translation>Bildschirmhelligkeit +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Helligkeit -</translation>
+        <translation>Bildschirmhelligkeit −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>DPI durchschalten</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Profilwert</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Profil +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Profil −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Profile durchschalten</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Profil 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Profil 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Profil 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Profil 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Profil 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Lichteffekt -</translation>
+        <translation>Lichteffekt −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Beleuchtungsstärke -</translation>
+        <translation>Beleuchtungsstärke −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Effekttempo -</translation>
+        <translation>Effekttempo −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Lichtfarbe -</translation>
+        <translation>Lichtfarbe −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Seitenlicht-Tempo -</translation>
+        <translation>Seitenlicht-Tempo −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Seitenlicht-Farbe -</translation>
+        <translation>Seitenlicht-Farbe −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1880,7 +1880,7 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Drücken (mm)</translation>
+        <translation>Auslösung (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
@@ -1891,7 +1891,7 @@ B</translation>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>Wählen Sie oben eine Taste und geben Sie ihr zwei Funktionen, für Tippen und für langes Drücken (Kombinationen möglich)</translation>
+        <translation>Wähle oben eine Taste und gib ihr zwei Funktionen: eine fürs Tippen und eine fürs Halten (Kombinationen möglich)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>RT-Weg (global)</translation>
+        <translation>RT-Empfindlichkeit (global)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Verknüpft 2 gewählte Tasten (oben jeweils auswählen): Sind beide gedrückt, gilt die zuletzt gedrückte</translation>
+        <translation>Verknüpft 2 Tasten (oben jeweils auswählen): Sind beide gedrückt, gilt die zuletzt gedrückte (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1954,7 +1954,7 @@ B</translation>
     <name>ModuleTGLTab</name>
     <message>
         <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
-        <translation>Wählen Sie oben eine Taste und legen Sie ihre Funktion als Dauerfeuer oder Halten fest</translation>
+        <translation>Wähle oben eine Taste und lege ihre Funktion als Dauerfeuer oder Halten fest</translation>
     </message>
     <message>
         <source>连点</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2007,7 +2007,7 @@ B</translation>
     </message>
     <message>
         <source>0%(关闭)</source>
-        <translation>0 % (aus)</translation>
+        <translation>0% (aus)</translation>
     </message>
     <message>
         <source>防误触模式</source>
@@ -2019,7 +2019,7 @@ B</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
-        <translation>Verhindert Fehlauslösungen durch Tischvibrationen bei extremen Einstellungen und gleicht Schaltertoleranzen von 0,1 mm aus. Eingeschaltet gleicht der Algorithmus am unteren Ende den Unterschied aus und macht die Tastatur stabiler.</translation>
+        <translation>Verhindert Fehlauslösungen durch einen wackelnden Tisch bei extremen Einstellungen und gleicht Switch-Toleranzen bis 0,1 mm aus. Eingeschaltet ist der Algorithmus am unteren Ende des Hubs darauf abgestimmt, und die Tastatur arbeitet stabiler.</translation>
     </message>
     <message>
         <source>已开启</source>
@@ -2034,11 +2034,11 @@ B</translation>
     <name>SwitchTypePage</name>
     <message>
         <source>轴体设置</source>
-        <translation>Schaltertyp</translation>
+        <translation>Switch-Typ</translation>
     </message>
     <message>
         <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
-        <translation>Wählen Sie nach einem Schalterwechsel unten den passenden Schalter und klicken Sie die Tasten an, in denen er steckt</translation>
+        <translation>Wähle nach einem Switch-Wechsel unten den passenden Switch und klicke die Tasten an, in denen er steckt</translation>
     </message>
     <message>
         <source>炫光</source>
@@ -2084,7 +2084,7 @@ B</translation>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Auslöse- und Rückstellpunkt getrennt einstellen:</translation>
+        <translation>Auslösen und Loslassen getrennt einstellen:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,7 +2098,7 @@ Aus: Rapid Trigger endet, sobald die Taste über den Auslösepunkt steigt</trans
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Auslöse- und Rücksetzweg getrennt einstellen</translation>
+        <translation>RT-Weg fürs Drücken und Loslassen getrennt einstellen</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>

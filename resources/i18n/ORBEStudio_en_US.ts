@@ -57,11 +57,11 @@ B</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation>The distance from bottoming out until the key lifts is called the dead zone. It keeps interference from interrupting a held magnetic switch. Set it as you need; travel inside the dead zone triggers nothing.</translation>
+        <translation>The distance from bottoming out until the key starts to lift is called the dead zone. It keeps interference from interrupting a held magnetic switch. Set it to your liking; travel inside the dead zone triggers nothing.</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>Set</translation>
+        <translation>Apply</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -176,7 +176,7 @@ B</translation>
     </message>
     <message>
         <source>命令目录</source>
-        <translation>Command catalogue</translation>
+        <translation>Command catalog</translation>
     </message>
 </context>
 <context>
@@ -187,11 +187,11 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Basic characters</translation>
+        <translation>Basic keys</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation>Extended keys</translation>
+        <translation>Extra keys</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>Scroll left</translation>
+        <translation>Wheel left</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>Scroll right</translation>
+        <translation>Wheel right</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>Scroll up</translation>
+        <translation>Wheel up</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>Scroll down</translation>
+        <translation>Wheel down</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Basic characters</translation>
+        <translation>Basic keys</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Extended characters</translation>
+        <translation>Extra keys</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -392,19 +392,19 @@ B</translation>
     </message>
     <message>
         <source>板载 1</source>
-        <translation>Onboard 1</translation>
+        <translation>Profile 1</translation>
     </message>
     <message>
         <source>板载 2</source>
-        <translation>Onboard 2</translation>
+        <translation>Profile 2</translation>
     </message>
     <message>
         <source>板载 3</source>
-        <translation>Onboard 3</translation>
+        <translation>Profile 3</translation>
     </message>
     <message>
         <source>板载 4</source>
-        <translation>Onboard 4</translation>
+        <translation>Profile 4</translation>
     </message>
     <message>
         <source>对码</source>
@@ -466,7 +466,7 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Hold/tap (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -489,7 +489,7 @@ B</translation>
     </message>
     <message>
         <source>我的作品</source>
-        <translation>My works</translation>
+        <translation>My designs</translation>
     </message>
     <message>
         <source>颜色:</source>
@@ -549,7 +549,7 @@ B</translation>
     </message>
     <message>
         <source>还没有作品，给按键上色后点击“保存”</source>
-        <translation>No works yet. Paint some keys, then press Save</translation>
+        <translation>No designs yet. Paint some keys, then press Save</translation>
     </message>
     <message>
         <source>提示</source>
@@ -557,11 +557,11 @@ B</translation>
     </message>
     <message>
         <source>确认要删除此作品吗？</source>
-        <translation>Delete this work?</translation>
+        <translation>Delete this design?</translation>
     </message>
     <message>
         <source>我的作品%1</source>
-        <translation>My work %1</translation>
+        <translation>My design %1</translation>
     </message>
 </context>
 <context>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Travel settings</translation>
+        <translation>Actuation</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -647,11 +647,11 @@ B</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation>Stabilisation</translation>
+        <translation>Stabilization</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>Simulated test</translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Kaihua switch</translation>
+        <translation>Kailh switch</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Key travel (global)</translation>
+        <translation>Actuation (global)</translation>
     </message>
 </context>
 <context>
@@ -742,7 +742,7 @@ B</translation>
     </message>
     <message>
         <source>开机时自动开启本程序</source>
-        <translation>Start this program at boot</translation>
+        <translation>Launch this program at startup</translation>
     </message>
     <message>
         <source>确定</source>
@@ -780,7 +780,7 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Hold/tap</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -929,7 +929,7 @@ B</translation>
     </message>
     <message>
         <source>确定要退出 ORBE 驱动程序？</source>
-        <translation>Are you sure you want to exit the ORBE driver?</translation>
+        <translation>Are you sure you want to quit the ORBE driver?</translation>
     </message>
     <message>
         <source>正在搜索设备</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Volume -</translation>
+        <translation>Volume −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>My computer</translation>
+        <translation>This PC</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1400,7 +1400,7 @@ B</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Screen brightness -</translation>
+        <translation>Screen brightness −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1412,7 +1412,7 @@ B</translation>
     </message>
     <message>
         <source>呼出Siri</source>
-        <translation>Call Siri</translation>
+        <translation>Activate Siri</translation>
     </message>
     <message>
         <source>切换输入法</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>Cycle DPI</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Profile value</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Profile +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Profile −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Cycle profiles</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Profile 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Profile 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Profile 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Profile 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Profile 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1508,7 +1508,7 @@ B</translation>
     </message>
     <message>
         <source>锁Win</source>
-        <translation>Lock Win</translation>
+        <translation>Win lock</translation>
     </message>
     <message>
         <source>切换Win</source>
@@ -1528,11 +1528,11 @@ B</translation>
     </message>
     <message>
         <source>WASD切换</source>
-        <translation>Switch WASD</translation>
+        <translation>Toggle WASD</translation>
     </message>
     <message>
         <source>Fn层切换</source>
-        <translation>Switch Fn layer</translation>
+        <translation>Toggle Fn layer</translation>
     </message>
     <message>
         <source>设备节能</source>
@@ -1540,7 +1540,7 @@ B</translation>
     </message>
     <message>
         <source>APP CTRL切换</source>
-        <translation>Switch APP CTRL</translation>
+        <translation>Toggle APP CTRL</translation>
     </message>
     <message>
         <source>背光开/关</source>
@@ -1548,7 +1548,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
-        <translation>Backlight effect cycle</translation>
+        <translation>Cycle backlight effects</translation>
     </message>
     <message>
         <source>背光灯效+</source>
@@ -1556,11 +1556,11 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Backlight effect -</translation>
+        <translation>Backlight effect −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
-        <translation>Backlight brightness cycle</translation>
+        <translation>Cycle backlight brightness</translation>
     </message>
     <message>
         <source>背光亮度+</source>
@@ -1568,15 +1568,15 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Backlight brightness -</translation>
+        <translation>Backlight brightness −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
-        <translation>Backlight speed cycle</translation>
+        <translation>Cycle backlight speed</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Backlight speed -</translation>
+        <translation>Backlight speed −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1584,7 +1584,7 @@ B</translation>
     </message>
     <message>
         <source>背光方向循环</source>
-        <translation>Backlight direction cycle</translation>
+        <translation>Cycle backlight direction</translation>
     </message>
     <message>
         <source>背光向左</source>
@@ -1596,7 +1596,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色循环</source>
-        <translation>Backlight color cycle</translation>
+        <translation>Cycle backlight colors</translation>
     </message>
     <message>
         <source>背光颜色+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Backlight color -</translation>
+        <translation>Backlight color −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1636,11 +1636,11 @@ B</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
-        <translation>Side light brightness cycle</translation>
+        <translation>Cycle side light brightness</translation>
     </message>
     <message>
         <source>侧光速度循环</source>
-        <translation>Side light speed cycle</translation>
+        <translation>Cycle side light speed</translation>
     </message>
     <message>
         <source>侧光速度+</source>
@@ -1648,11 +1648,11 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Side light speed -</translation>
+        <translation>Side light speed −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
-        <translation>Side light color cycle</translation>
+        <translation>Cycle side light colors</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Side light color -</translation>
+        <translation>Side light color −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1880,7 +1880,7 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Press (mm)</translation>
+        <translation>Actuation (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
@@ -1891,7 +1891,7 @@ B</translation>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>Select a key above and give it two functions, one for a tap and one for a long press (combinations are supported)</translation>
+        <translation>Select a key above and give it two functions: one for a tap and one for holding it (key combinations work too)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1903,7 +1903,7 @@ B</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation>Adjust the time it takes to trigger “Hold”</translation>
+        <translation>How long a key must be held to trigger “Hold”</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>RT travel (global)</translation>
+        <translation>RT sensitivity (global)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Binds 2 selected keys (choose each above): while both are pressed, the one pressed last wins</translation>
+        <translation>Binds two keys (choose each one above): while both are held, the key pressed last wins (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1999,7 +1999,7 @@ B</translation>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
-        <translation>RT Stab (RT stabilisation)</translation>
+        <translation>RT Stab (RT stabilization)</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
@@ -2011,7 +2011,7 @@ B</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation>Anti-mistouch mode</translation>
+        <translation>Accidental press protection</translation>
     </message>
     <message>
         <source>(已关闭)</source>
@@ -2077,14 +2077,14 @@ B</translation>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
-        <translation>Switch</translation>
+        <translation>Toggle</translation>
     </message>
 </context>
 <context>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Set press and release travel separately:</translation>
+        <translation>Set actuation and release separately:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,19 +2098,19 @@ Off: Rapid Trigger ends when the key rises past its actuation point</translation
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Set re-press and release travel separately</translation>
+        <translation>Set RT press and release travel separately</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
-        <translation>Travel to fire on the next press (mm)</translation>
+        <translation>Press travel to re-trigger (mm)</translation>
     </message>
     <message>
         <source>松开按键重置所需的行程(mm)</source>
-        <translation>Travel to reset on release (mm)</translation>
+        <translation>Release travel to reset (mm)</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>Set</translation>
+        <translation>Apply</translation>
     </message>
 </context>
 <context>

@@ -122,7 +122,7 @@ B</translation>
     <name>DeviceOptionsPanel</name>
     <message>
         <source>键盘回报率</source>
-        <translation>Taux d’interrogation</translation>
+        <translation>Polling rate</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
@@ -187,7 +187,7 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Caractères de base</translation>
+        <translation>Touches de base</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>Défil. gauche</translation>
+        <translation>Molette gauche</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>Défil. droite</translation>
+        <translation>Molette droite</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>Défil. haut</translation>
+        <translation>Molette haut</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>Défil. bas</translation>
+        <translation>Molette bas</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Caractères de base</translation>
+        <translation>Touches de base</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Caractères étendus</translation>
+        <translation>Touches étendues</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -306,7 +306,7 @@ B</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation>Valider</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
@@ -368,7 +368,7 @@ B</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation>Réglages des switches magnétiques</translation>
+        <translation>Switchs magnétiques</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -416,7 +416,7 @@ B</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation>Calibrer la course</translation>
+        <translation>Calibration</translation>
     </message>
     <message>
         <source>灯光设置</source>
@@ -466,7 +466,7 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Maintien/appui (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -572,7 +572,7 @@ B</translation>
     </message>
     <message>
         <source>抬起</source>
-        <translation>Relâcher</translation>
+        <translation>Relâchement</translation>
     </message>
     <message>
         <source>按下</source>
@@ -584,7 +584,7 @@ B</translation>
     </message>
     <message>
         <source>开始录制</source>
-        <translation>Enregistrer</translation>
+        <translation>Démarrer</translation>
     </message>
     <message>
         <source>插入</source>
@@ -616,7 +616,7 @@ B</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
-        <translation>Cliquez sur « Enregistrer » et appuyez sur des touches, ou sur « Insérer » pour ajouter un événement</translation>
+        <translation>Cliquez sur « Démarrer » et appuyez sur des touches, ou sur « Insérer » pour ajouter un événement</translation>
     </message>
     <message>
         <source>请在左侧选择一个宏</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Réglages de course</translation>
+        <translation>Point d’activation</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -651,7 +651,7 @@ B</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>Test simulé</translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Switch Kaihua</translation>
+        <translation>Switch Kailh</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Course des touches (globale)</translation>
+        <translation>Point d’activation (global)</translation>
     </message>
 </context>
 <context>
@@ -780,7 +780,7 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Maintien/appui</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -844,7 +844,7 @@ B</translation>
     <name>LinearFixing2</name>
     <message>
         <source>行程校准</source>
-        <translation>Calibrer la course</translation>
+        <translation>Calibration</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Volume -</translation>
+        <translation>Volume −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>Poste de travail</translation>
+        <translation>Ce PC</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1396,11 +1396,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Luminosité +</translation>
+        <translation>Luminosité de l’écran +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Luminosité -</translation>
+        <translation>Luminosité de l’écran −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>DPI en boucle</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Valeur du profil</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Profil +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Profil −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Profils en boucle</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Profil 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Profil 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Profil 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Profil 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Profil 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1544,7 +1544,7 @@ B</translation>
     </message>
     <message>
         <source>背光开/关</source>
-        <translation>Rétroéclairage oui/non</translation>
+        <translation>Rétroéclairage marche/arrêt</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Effet -</translation>
+        <translation>Effet −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Luminosité du rétroéclairage -</translation>
+        <translation>Luminosité du rétroéclairage −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Vitesse du rétroéclairage -</translation>
+        <translation>Vitesse du rétroéclairage −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Couleur -</translation>
+        <translation>Couleur −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1632,7 +1632,7 @@ B</translation>
     </message>
     <message>
         <source>侧光开/关</source>
-        <translation>Éclairage latéral oui/non</translation>
+        <translation>Éclairage latéral marche/arrêt</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Vitesse latérale -</translation>
+        <translation>Vitesse latérale −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Couleur latérale -</translation>
+        <translation>Couleur latérale −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1880,7 +1880,7 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Appui (mm)</translation>
+        <translation>Activation (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Course RT (globale)</translation>
+        <translation>Sensibilité RT (globale)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Associe 2 touches (à choisir ci-dessus) : si les deux sont enfoncées, la dernière enfoncée l’emporte</translation>
+        <translation>Associe 2 touches (à choisir ci-dessus) : si les deux sont enfoncées, la dernière enfoncée l’emporte (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1962,7 +1962,7 @@ B</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation>Appui long</translation>
+        <translation>Maintien</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>Vidéo</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2007,11 +2007,11 @@ B</translation>
     </message>
     <message>
         <source>0%(关闭)</source>
-        <translation>0 % (désactivé)</translation>
+        <translation>0% (désactivé)</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation>Mode anti-appui accidentel</translation>
+        <translation>Protection contre les appuis accidentels</translation>
     </message>
     <message>
         <source>(已关闭)</source>
@@ -2084,7 +2084,7 @@ B</translation>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Régler l’appui et le relâchement séparément :</translation>
+        <translation>Régler activation et relâchement séparément :</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,7 +2098,7 @@ Désactivé : le Rapid Trigger s’arrête quand la touche repasse au-dessus du 
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Régler le réappui et la réinitialisation séparément</translation>
+        <translation>Régler l’appui et le relâchement RT séparément</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>

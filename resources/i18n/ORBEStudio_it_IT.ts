@@ -187,7 +187,7 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Caratteri di base</translation>
+        <translation>Tasti di base</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>Scorri a sin.</translation>
+        <translation>Rotella a sinistra</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>Scorri a des.</translation>
+        <translation>Rotella a destra</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>Scorri su</translation>
+        <translation>Rotella su</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>Scorri giù</translation>
+        <translation>Rotella giù</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Caratteri di base</translation>
+        <translation>Tasti di base</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Caratteri estesi</translation>
+        <translation>Tasti estesi</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -306,7 +306,7 @@ B</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation>Conferma</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
@@ -368,7 +368,7 @@ B</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation>Impostazioni switch magnetici</translation>
+        <translation>Switch magnetici</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -416,7 +416,7 @@ B</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation>Calibrazione corsa</translation>
+        <translation>Calibrazione</translation>
     </message>
     <message>
         <source>灯光设置</source>
@@ -466,11 +466,11 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Tieni/tocca (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation>Interruttore (TGL)</translation>
+        <translation>Toggle (TGL)</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
@@ -485,7 +485,7 @@ B</translation>
     <name>FrameLight</name>
     <message>
         <source>点击按键上色，拖动可给多个按键上色</source>
-        <translation>Clicca su un tasto per colorarlo o trascina su più tasti</translation>
+        <translation>Fai clic su un tasto per colorarlo o trascina su più tasti</translation>
     </message>
     <message>
         <source>我的作品</source>
@@ -616,7 +616,7 @@ B</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
-        <translation>Fai clic su “Avvia registrazione” e premi i tasti, oppure su “Inserisci” per aggiungere un evento</translation>
+        <translation>Fai clic su «Avvia registrazione» e premi i tasti, oppure su «Inserisci» per aggiungere un evento</translation>
     </message>
     <message>
         <source>请在左侧选择一个宏</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Corsa dei tasti</translation>
+        <translation>Punto di attuazione</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -651,7 +651,7 @@ B</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>Test simulato</translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Switch Kaihua</translation>
+        <translation>Switch Kailh</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Corsa tasti (globale)</translation>
+        <translation>Punto di attuazione (globale)</translation>
     </message>
 </context>
 <context>
@@ -780,11 +780,11 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Tieni/tocca</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
-        <translation>Interruttore</translation>
+        <translation>Toggle</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -844,7 +844,7 @@ B</translation>
     <name>LinearFixing2</name>
     <message>
         <source>行程校准</source>
-        <translation>Calibrazione corsa</translation>
+        <translation>Calibrazione</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Volume -</translation>
+        <translation>Volume −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>Computer</translation>
+        <translation>Questo PC</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1396,11 +1396,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Luminosità +</translation>
+        <translation>Luminosità schermo +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Luminosità -</translation>
+        <translation>Luminosità schermo −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>Ciclo DPI</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Valore profilo</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Profilo +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Profilo −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Ciclo profili</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Profilo 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Profilo 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Profilo 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Profilo 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Profilo 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Effetto -</translation>
+        <translation>Effetto −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Luminosità tasti -</translation>
+        <translation>Luminosità tasti −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Velocità effetto -</translation>
+        <translation>Velocità effetto −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Colore tasti -</translation>
+        <translation>Colore tasti −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Velocità laterale -</translation>
+        <translation>Velocità laterale −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Colore laterale -</translation>
+        <translation>Colore laterale −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1684,7 +1684,7 @@ B</translation>
     </message>
     <message>
         <source>有线-蓝牙-2.4G</source>
-        <translation>Cavo-Bluetooth-2.4G</translation>
+        <translation>Cablato-Bluetooth-2.4G</translation>
     </message>
     <message>
         <source>2.4G配对</source>
@@ -1880,7 +1880,7 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Pressione (mm)</translation>
+        <translation>Attuazione (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
@@ -1903,7 +1903,7 @@ B</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation>Regola il tempo per attivare “Tieni”</translation>
+        <translation>Regola il tempo per attivare «Tieni»</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Corsa RT (globale)</translation>
+        <translation>Sensibilità RT (globale)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Abbina 2 tasti (scegli ciascuno in alto): se premuti insieme vale l’ultimo premuto</translation>
+        <translation>Abbina 2 tasti (scegli ciascuno in alto): se premuti insieme vale l’ultimo premuto (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1954,7 +1954,7 @@ B</translation>
     <name>ModuleTGLTab</name>
     <message>
         <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
-        <translation>Seleziona un tasto in alto e imposta la funzione in una di due modalità: ripetizione o pressione continua</translation>
+        <translation>Seleziona un tasto in alto e imposta la funzione in una di due modalità: ripeti o tieni premuto</translation>
     </message>
     <message>
         <source>连点</source>
@@ -1962,7 +1962,7 @@ B</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation>Pressione lunga</translation>
+        <translation>Tieni premuto</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2011,7 +2011,7 @@ B</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation>Modalità anti-tocco accidentale</translation>
+        <translation>Protezione da pressioni accidentali</translation>
     </message>
     <message>
         <source>(已关闭)</source>
@@ -2084,7 +2084,7 @@ B</translation>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Imposta pressione e rilascio separatamente:</translation>
+        <translation>Imposta attuazione e rilascio separatamente:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,7 +2098,7 @@ Disattivo: il Rapid Trigger termina quando il tasto risale oltre il punto di att
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Imposta ripressione e reset separatamente</translation>
+        <translation>Imposta pressione e rilascio RT separatamente</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>

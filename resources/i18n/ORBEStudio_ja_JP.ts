@@ -61,7 +61,7 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>設定</translation>
+        <translation>適用</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -187,11 +187,11 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>基本文字</translation>
+        <translation>基本キー</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation>拡張文字（キー）</translation>
+        <translation>拡張キー</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -199,7 +199,7 @@ B</translation>
     </message>
     <message>
         <source>播放方式:</source>
-        <translation>再生方法:</translation>
+        <translation>再生方法：</translation>
     </message>
     <message>
         <source>循环次数</source>
@@ -211,7 +211,7 @@ B</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation>押下</translation>
+        <translation>押す</translation>
     </message>
     <message>
         <source>系统功能</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>左スクロール</translation>
+        <translation>ホイール左</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>右スクロール</translation>
+        <translation>ホイール右</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>上スクロール</translation>
+        <translation>ホイール上</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>下スクロール</translation>
+        <translation>ホイール下</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>基本文字</translation>
+        <translation>基本キー</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>拡張文字</translation>
+        <translation>拡張キー</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -392,19 +392,19 @@ B</translation>
     </message>
     <message>
         <source>板载 1</source>
-        <translation>オンボード 1</translation>
+        <translation>プロファイル 1</translation>
     </message>
     <message>
         <source>板载 2</source>
-        <translation>オンボード 2</translation>
+        <translation>プロファイル 2</translation>
     </message>
     <message>
         <source>板载 3</source>
-        <translation>オンボード 3</translation>
+        <translation>プロファイル 3</translation>
     </message>
     <message>
         <source>板载 4</source>
-        <translation>オンボード 4</translation>
+        <translation>プロファイル 4</translation>
     </message>
     <message>
         <source>对码</source>
@@ -466,7 +466,7 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>ホールド/タップ (MT)</translation>
+        <translation>モッドタップ (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -576,7 +576,7 @@ B</translation>
     </message>
     <message>
         <source>按下</source>
-        <translation>押下</translation>
+        <translation>押す</translation>
     </message>
     <message>
         <source>延迟</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>トラベル設定</translation>
+        <translation>アクチュエーション</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -647,11 +647,11 @@ B</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation>安定化アルゴリズム</translation>
+        <translation>安定化</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>シミュレーションテスト</translation>
+        <translation>テスト</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Kaihua スイッチ</translation>
+        <translation>Kailh スイッチ</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>キートラベル設定（全体）</translation>
+        <translation>アクチュエーションポイント（全体）</translation>
     </message>
 </context>
 <context>
@@ -780,7 +780,7 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>ホールド/タップ</translation>
+        <translation>モッドタップ</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -795,7 +795,7 @@ B</translation>
     <name>KeyTestPage</name>
     <message>
         <source>行程测试</source>
-        <translation>トラベルテスト</translation>
+        <translation>ストロークテスト</translation>
     </message>
     <message>
         <source>按键测试</source>
@@ -829,7 +829,7 @@ B</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation>キーを 1 つずつ軽く底まで押し、オレンジ色に変わる（そのキーの校正完了）まで 1 秒以上そのまま保持してください。押し忘れのないようにしてください。同じキーを何度押しても構いません。ワイヤレス接続では校正済みキー数は表示されません。校正中はケーブルを抜かないでください。</translation>
+        <translation>キーを 1 つずつ軽く底まで押し、オレンジ色に変わる（そのキーのキャリブレーション完了）まで 1 秒以上そのまま保持してください。押し忘れのないようにしてください。同じキーを何度押しても構いません。ワイヤレス接続では完了したキーの数は表示されません。キャリブレーション中はケーブルを抜かないでください。</translation>
     </message>
     <message>
         <source>取消</source>
@@ -837,7 +837,7 @@ B</translation>
     </message>
     <message>
         <source>开始校准</source>
-        <translation>校正を開始</translation>
+        <translation>キャリブレーションを開始</translation>
     </message>
 </context>
 <context>
@@ -848,7 +848,7 @@ B</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation>キーを 1 つずつ軽く底まで押し、オレンジ色に変わる（そのキーの校正完了）まで 1 秒以上そのまま保持してください。押し忘れのないようにしてください。同じキーを何度押しても構いません。ワイヤレス接続では校正済みキー数は表示されません。校正中はケーブルを抜かないでください。</translation>
+        <translation>キーを 1 つずつ軽く底まで押し、オレンジ色に変わる（そのキーのキャリブレーション完了）まで 1 秒以上そのまま保持してください。押し忘れのないようにしてください。同じキーを何度押しても構いません。ワイヤレス接続では完了したキーの数は表示されません。キャリブレーション中はケーブルを抜かないでください。</translation>
     </message>
     <message>
         <source>取消</source>
@@ -856,7 +856,7 @@ B</translation>
     </message>
     <message>
         <source>完成校准</source>
-        <translation>校正を完了</translation>
+        <translation>キャリブレーションを完了</translation>
     </message>
 </context>
 <context>
@@ -995,7 +995,7 @@ B</translation>
     <name>ModuleDKSAdjust</name>
     <message>
         <source>按下(mm)</source>
-        <translation>押下 (mm)</translation>
+        <translation>押す (mm)</translation>
     </message>
     <message>
         <source>取消</source>
@@ -1010,7 +1010,7 @@ B</translation>
     <name>ModuleDKSItem</name>
     <message>
         <source>按下触发</source>
-        <translation>押下で作動</translation>
+        <translation>作動点を通過</translation>
     </message>
     <message>
         <source>按到底部</source>
@@ -1045,7 +1045,7 @@ B</translation>
     </message>
     <message>
         <source>按下触发</source>
-        <translation>押下で作動</translation>
+        <translation>作動点を通過</translation>
     </message>
     <message>
         <source>按到底部</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>マイコンピューター</translation>
+        <translation>PC</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1436,7 +1436,7 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>DPI の切り替え</translation>
     </message>
     <message>
         <source>DPI+</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>プロファイル値</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>プロファイル+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>プロファイル-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>プロファイルの切り替え</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>プロファイル 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>プロファイル 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>プロファイル 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>プロファイル 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>プロファイル 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1548,7 +1548,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效循环</source>
-        <translation>バックライト効果の循環</translation>
+        <translation>バックライト効果の切り替え</translation>
     </message>
     <message>
         <source>背光灯效+</source>
@@ -1560,19 +1560,19 @@ B</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
-        <translation>バックライト輝度の循環</translation>
+        <translation>バックライトの明るさの切り替え</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation>バックライト輝度+</translation>
+        <translation>バックライトの明るさ+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>バックライト輝度-</translation>
+        <translation>バックライトの明るさ-</translation>
     </message>
     <message>
         <source>背光速度循环</source>
-        <translation>バックライト速度の循環</translation>
+        <translation>バックライト速度の切り替え</translation>
     </message>
     <message>
         <source>背光速度-</source>
@@ -1584,7 +1584,7 @@ B</translation>
     </message>
     <message>
         <source>背光方向循环</source>
-        <translation>バックライト方向の循環</translation>
+        <translation>バックライト方向の切り替え</translation>
     </message>
     <message>
         <source>背光向左</source>
@@ -1596,7 +1596,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色循环</source>
-        <translation>バックライト色の循環</translation>
+        <translation>バックライト色の切り替え</translation>
     </message>
     <message>
         <source>背光颜色+</source>
@@ -1636,11 +1636,11 @@ B</translation>
     </message>
     <message>
         <source>侧光亮度循环</source>
-        <translation>サイドライト輝度の循環</translation>
+        <translation>サイドライトの明るさの切り替え</translation>
     </message>
     <message>
         <source>侧光速度循环</source>
-        <translation>サイドライト速度の循環</translation>
+        <translation>サイドライト速度の切り替え</translation>
     </message>
     <message>
         <source>侧光速度+</source>
@@ -1652,7 +1652,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
-        <translation>サイドライト色の循環</translation>
+        <translation>サイドライト色の切り替え</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
@@ -1880,18 +1880,18 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>押下 (mm)</translation>
+        <translation>作動点 (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation>リリース (mm)</translation>
+        <translation>リリース点 (mm)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>上のキーを選択し、タップと長押しの 2 つの操作にそれぞれ機能を割り当てます（キーの組み合わせ対応）</translation>
+        <translation>上のキーを選択し、タップとホールドの 2 つの操作にそれぞれ機能を割り当てます（キーの組み合わせ対応）</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>RT トラベル設定（全体）</translation>
+        <translation>RT 感度（全体）</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>選択した 2 つのキー（上でそれぞれ選択）を連動させ、同時に押されたときは最後に押したキーを優先します</translation>
+        <translation>選択した 2 つのキー（上でそれぞれ選択）を組にし、同時に押されたときは最後に押したキーを優先します（SOCD）</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>動画</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2015,7 +2015,7 @@ B</translation>
     </message>
     <message>
         <source>(已关闭)</source>
-        <translation>(オフ)</translation>
+        <translation>（オフ）</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
@@ -2077,18 +2077,18 @@ B</translation>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
-        <translation>スイッチ</translation>
+        <translation>トグルスイッチ</translation>
     </message>
 </context>
 <context>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>押下とリリースの作動点を個別に設定：</translation>
+        <translation>作動点とリリース点を個別に設定：</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
-        <translation>連続ラピッドトリガー（RT）</translation>
+        <translation>連続ラピッドトリガー (RT)</translation>
     </message>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。
@@ -2098,7 +2098,7 @@ B</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>再入力とリセットの距離を個別に設定</translation>
+        <translation>RT の押す距離と離す距離を個別に設定</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
@@ -2110,14 +2110,14 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>設定</translation>
+        <translation>適用</translation>
     </message>
 </context>
 <context>
     <name>TravelRuler</name>
     <message>
         <source>行程测试</source>
-        <translation>トラベルテスト</translation>
+        <translation>ストロークテスト</translation>
     </message>
 </context>
 </TS>

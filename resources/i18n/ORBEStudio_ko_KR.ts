@@ -57,11 +57,11 @@ B</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation>바닥을 친 뒤 다시 올라오기 전까지의 거리를 &quot;데드존&quot;이라고 합니다. 데드존은 주변 간섭으로 자석축 입력이 끊기는 현상을 줄여 줍니다. 필요에 맞게 설정할 수 있으며, 이 구간에서는 입력이 발생하지 않습니다.</translation>
+        <translation>바닥을 친 뒤 다시 올라오기 전까지의 거리를 “데드존”이라고 합니다. 데드존은 주변 간섭으로 자석축 입력이 끊기는 현상을 줄여 줍니다. 필요에 맞게 설정할 수 있으며, 이 구간에서는 입력이 발생하지 않습니다.</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>설정</translation>
+        <translation>적용</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -187,11 +187,11 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>기본 문자</translation>
+        <translation>기본 키</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation>확장 문자(키)</translation>
+        <translation>확장 키</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>왼쪽 스크롤</translation>
+        <translation>휠 왼쪽</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>오른쪽 스크롤</translation>
+        <translation>휠 오른쪽</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>위로 스크롤</translation>
+        <translation>휠 위로</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>아래로 스크롤</translation>
+        <translation>휠 아래로</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>기본 문자</translation>
+        <translation>기본 키</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>확장 문자</translation>
+        <translation>확장 키</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -392,19 +392,19 @@ B</translation>
     </message>
     <message>
         <source>板载 1</source>
-        <translation>온보드 1</translation>
+        <translation>프로필 1</translation>
     </message>
     <message>
         <source>板载 2</source>
-        <translation>온보드 2</translation>
+        <translation>프로필 2</translation>
     </message>
     <message>
         <source>板载 3</source>
-        <translation>온보드 3</translation>
+        <translation>프로필 3</translation>
     </message>
     <message>
         <source>板载 4</source>
-        <translation>온보드 4</translation>
+        <translation>프로필 4</translation>
     </message>
     <message>
         <source>对码</source>
@@ -466,7 +466,7 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>홀드/탭(MT)</translation>
+        <translation>모드 탭(MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -549,7 +549,7 @@ B</translation>
     </message>
     <message>
         <source>还没有作品，给按键上色后点击“保存”</source>
-        <translation>아직 작품이 없습니다. 키를 칠한 뒤 &apos;저장&apos;을 누르세요</translation>
+        <translation>아직 작품이 없습니다. 키를 칠한 뒤 ‘저장’을 누르세요</translation>
     </message>
     <message>
         <source>提示</source>
@@ -616,7 +616,7 @@ B</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
-        <translation>&apos;녹화 시작&apos;을 누르고 키를 입력하거나 &apos;삽입&apos;으로 이벤트를 추가하세요</translation>
+        <translation>‘녹화 시작’을 누르고 키를 입력하거나 ‘삽입’으로 이벤트를 추가하세요</translation>
     </message>
     <message>
         <source>请在左侧选择一个宏</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>트래블 설정</translation>
+        <translation>액추에이션 설정</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -647,11 +647,11 @@ B</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation>안정화 알고리즘</translation>
+        <translation>안정화</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>시뮬레이션 테스트</translation>
+        <translation>테스트</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Kaihua 스위치</translation>
+        <translation>Kailh 스위치</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>키 트래블 설정(전체)</translation>
+        <translation>액추에이션 포인트(전체)</translation>
     </message>
 </context>
 <context>
@@ -780,7 +780,7 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>홀드/탭</translation>
+        <translation>모드 탭</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -1010,7 +1010,7 @@ B</translation>
     <name>ModuleDKSItem</name>
     <message>
         <source>按下触发</source>
-        <translation>눌러서 입력</translation>
+        <translation>액추에이션 통과</translation>
     </message>
     <message>
         <source>按到底部</source>
@@ -1045,7 +1045,7 @@ B</translation>
     </message>
     <message>
         <source>按下触发</source>
-        <translation>눌러서 입력</translation>
+        <translation>액추에이션 통과</translation>
     </message>
     <message>
         <source>按到底部</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>내 컴퓨터</translation>
+        <translation>내 PC</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1436,7 +1436,7 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>DPI 순환</translation>
     </message>
     <message>
         <source>DPI+</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>프로필 값</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>프로필+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>프로필-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>프로필 순환</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>프로필 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>프로필 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>프로필 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>프로필 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>프로필 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1880,18 +1880,18 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>누름(mm)</translation>
+        <translation>액추에이션(mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation>뗌(mm)</translation>
+        <translation>릴리스(mm)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>위에서 키를 선택해 탭과 길게 누르기에 각각 기능을 하나씩 지정합니다(조합 키 지원)</translation>
+        <translation>위에서 키를 선택해 탭과 홀드에 각각 기능을 하나씩 지정합니다(조합 키 지원)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1903,7 +1903,7 @@ B</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation>&quot;홀드&quot;가 작동하기까지의 시간 조정</translation>
+        <translation>‘홀드’가 작동하기까지의 시간 조정</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>RT 트래블 설정(전체)</translation>
+        <translation>RT 감도(전체)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>선택한 키 2개(위에서 각각 선택)를 묶습니다. 두 키를 동시에 누르면 마지막에 누른 키가 우선합니다</translation>
+        <translation>선택한 키 2개(위에서 각각 선택)를 묶습니다. 두 키를 동시에 누르면 마지막에 누른 키가 우선합니다(SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>동영상</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2077,14 +2077,14 @@ B</translation>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
-        <translation>스위치</translation>
+        <translation>토글 스위치</translation>
     </message>
 </context>
 <context>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>누름/뗌 입력 지점 따로 설정:</translation>
+        <translation>액추에이션과 릴리스 따로 설정:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2094,11 +2094,11 @@ B</translation>
         <source>启用时，快速触发在您完全松开按键时才会终止。
 禁用时，松开按键到轴体触发行程后终止快速触发</source>
         <translation>켜기: 키를 완전히 뗄 때까지 래피드 트리거가 유지됩니다.
-끄기: 키가 입력 지점 위로 올라오면 래피드 트리거가 끝납니다</translation>
+끄기: 키가 액추에이션 포인트 위로 올라오면 래피드 트리거가 끝납니다</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>다시 누름과 리셋 거리를 따로 설정</translation>
+        <translation>RT 누름과 뗌 거리를 따로 설정</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
@@ -2110,7 +2110,7 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>설정</translation>
+        <translation>적용</translation>
     </message>
 </context>
 <context>

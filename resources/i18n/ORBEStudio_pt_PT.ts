@@ -61,7 +61,7 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>Definir</translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -187,11 +187,11 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Caracteres básicos</translation>
+        <translation>Teclas básicas</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation>Teclas alargadas</translation>
+        <translation>Teclas adicionais</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>Roda esq.</translation>
+        <translation>Roda para a esquerda</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>Roda dir.</translation>
+        <translation>Roda para a direita</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>Roda cima</translation>
+        <translation>Roda para cima</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>Roda baixo</translation>
+        <translation>Roda para baixo</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Caracteres básicos</translation>
+        <translation>Teclas básicas</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Caracteres alargados</translation>
+        <translation>Teclas adicionais</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -306,7 +306,7 @@ B</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation>Confirmar</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
@@ -368,7 +368,7 @@ B</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation>Definições dos switches magnéticos</translation>
+        <translation>Switches magnéticos</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -392,19 +392,19 @@ B</translation>
     </message>
     <message>
         <source>板载 1</source>
-        <translation>Memória 1</translation>
+        <translation>Perfil 1</translation>
     </message>
     <message>
         <source>板载 2</source>
-        <translation>Memória 2</translation>
+        <translation>Perfil 2</translation>
     </message>
     <message>
         <source>板载 3</source>
-        <translation>Memória 3</translation>
+        <translation>Perfil 3</translation>
     </message>
     <message>
         <source>板载 4</source>
-        <translation>Memória 4</translation>
+        <translation>Perfil 4</translation>
     </message>
     <message>
         <source>对码</source>
@@ -416,7 +416,7 @@ B</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation>Calibrar curso</translation>
+        <translation>Calibração</translation>
     </message>
     <message>
         <source>灯光设置</source>
@@ -466,7 +466,7 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Manter/toque (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -616,7 +616,7 @@ B</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
-        <translation>Clique em “Iniciar gravação” e prima teclas, ou em “Inserir” para adicionar um evento</translation>
+        <translation>Clique em «Iniciar gravação» e prima teclas, ou em «Inserir» para adicionar um evento</translation>
     </message>
     <message>
         <source>请在左侧选择一个宏</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Definições do curso</translation>
+        <translation>Ponto de atuação</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -651,7 +651,7 @@ B</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>Teste simulado</translation>
+        <translation>Teste</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Switch Kaihua</translation>
+        <translation>Switch Kailh</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Curso das teclas (global)</translation>
+        <translation>Ponto de atuação (global)</translation>
     </message>
 </context>
 <context>
@@ -780,7 +780,7 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Manter/toque</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -844,7 +844,7 @@ B</translation>
     <name>LinearFixing2</name>
     <message>
         <source>行程校准</source>
-        <translation>Calibrar curso</translation>
+        <translation>Calibração</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -863,7 +863,7 @@ B</translation>
     <name>MacroItem</name>
     <message>
         <source>重命名</source>
-        <translation>Renomear</translation>
+        <translation>Mudar o nome</translation>
     </message>
     <message>
         <source>删除</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Volume -</translation>
+        <translation>Volume −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>O meu computador</translation>
+        <translation>Este PC</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1400,7 +1400,7 @@ B</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Brilho do ecrã -</translation>
+        <translation>Brilho do ecrã −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>Ciclo de DPI</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Valor do perfil</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Perfil +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Perfil −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Ciclo de perfis</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Perfil 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Perfil 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Perfil 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Perfil 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Perfil 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Efeito -</translation>
+        <translation>Efeito −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Brilho da luz -</translation>
+        <translation>Brilho da luz −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Velocidade da luz -</translation>
+        <translation>Velocidade da luz −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Cor da luz -</translation>
+        <translation>Cor da luz −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Velocidade lateral -</translation>
+        <translation>Velocidade lateral −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Cor lateral -</translation>
+        <translation>Cor lateral −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1880,18 +1880,18 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Premir (mm)</translation>
+        <translation>Atuação (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation>Soltar (mm)</translation>
+        <translation>Libertação (mm)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>Selecione uma tecla acima e atribua-lhe duas funções, uma para o toque e outra para premir longamente (suporta combinações)</translation>
+        <translation>Selecione uma tecla acima e atribua-lhe duas funções: uma para o toque e outra para manter premida (suporta combinações)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Curso RT (global)</translation>
+        <translation>Sensibilidade RT (global)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Associa 2 teclas (escolha cada uma acima): com ambas premidas, vale a última a ser premida</translation>
+        <translation>Associa 2 teclas (escolha cada uma acima): com ambas premidas, vale a última a ser premida (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1962,7 +1962,7 @@ B</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation>Premir longamente</translation>
+        <translation>Manter</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2011,7 +2011,7 @@ B</translation>
     </message>
     <message>
         <source>防误触模式</source>
-        <translation>Modo anti-toque acidental</translation>
+        <translation>Proteção contra toques acidentais</translation>
     </message>
     <message>
         <source>(已关闭)</source>
@@ -2084,7 +2084,7 @@ B</translation>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Definir o curso de premir e soltar em separado:</translation>
+        <translation>Definir atuação e libertação em separado:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,7 +2098,7 @@ Desligado: o Rapid Trigger termina quando a tecla sobe acima do ponto de atuaç�
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Definir em separado o curso de nova pressão e de reposição</translation>
+        <translation>Definir o curso RT de premir e soltar em separado</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
@@ -2110,7 +2110,7 @@ Desligado: o Rapid Trigger termina quando a tecla sobe acima do ponto de atuaç�
     </message>
     <message>
         <source>设置</source>
-        <translation>Definir</translation>
+        <translation>Aplicar</translation>
     </message>
 </context>
 <context>

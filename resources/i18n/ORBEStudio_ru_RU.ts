@@ -57,7 +57,7 @@ B</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation>Расстояние от упора до начала подъёма называют «мёртвой зоной». Она уменьшает пропуски магнитного переключателя из-за помех. Настройте её под себя: в пределах этой зоны клавиша не срабатывает.</translation>
+        <translation>Расстояние от упора до начала подъёма называют «мёртвой зоной». Она не даёт помехам прерывать удержание магнитного свитча. Настройте её под себя: в пределах этой зоны клавиша не срабатывает.</translation>
     </message>
     <message>
         <source>设置</source>
@@ -88,7 +88,7 @@ B</translation>
     </message>
     <message>
         <source>单击按键即可按下它，部分灯效会作出反应。</source>
-        <translation>Щёлкните клавишу, чтобы нажать её; некоторые эффекты реагируют.</translation>
+        <translation>Щёлкните по клавише, чтобы нажать её; некоторые эффекты реагируют.</translation>
     </message>
     <message>
         <source>灯光已关闭</source>
@@ -107,15 +107,15 @@ B</translation>
     </message>
     <message>
         <source>插入或拔出虚拟设备：</source>
-        <translation>Подключить или отключить виртуальные устройства:</translation>
+        <translation>Подключение и отключение виртуальных устройств:</translation>
     </message>
     <message>
         <source>依次按下所有按键</source>
-        <translation>Нажимать все клавиши по очереди</translation>
+        <translation>Нажать все клавиши по очереди</translation>
     </message>
     <message>
         <source>显示键盘的灯光</source>
-        <translation>Показывать подсветку клавиатуры</translation>
+        <translation>Показать подсветку клавиатуры</translation>
     </message>
 </context>
 <context>
@@ -187,7 +187,7 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Основные символы</translation>
+        <translation>Основные клавиши</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>Прокрутка влево</translation>
+        <translation>Колесо влево</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>Прокрутка вправо</translation>
+        <translation>Колесо вправо</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>Прокрутка вверх</translation>
+        <translation>Колесо вверх</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>Прокрутка вниз</translation>
+        <translation>Колесо вниз</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Основные символы</translation>
+        <translation>Основные клавиши</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Дополнительные символы</translation>
+        <translation>Дополнительные клавиши</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -368,7 +368,7 @@ B</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation>Магнитные переключатели</translation>
+        <translation>Магнитные свитчи</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -454,11 +454,11 @@ B</translation>
     </message>
     <message>
         <source>*首先点击选择上方按键，在弹出的对话框中可选择组合键、宏设置、系统功能、鼠标功能进行改建设置</source>
-        <translation>*Сначала щёлкните клавишу выше, затем выберите в окне комбинацию, макрос, системную функцию или функцию мыши</translation>
+        <translation>*Сначала щёлкните по клавише выше, затем выберите в окне комбинацию, макрос, системную функцию или функцию мыши</translation>
     </message>
     <message>
         <source>*右键点击按键可清除设置、禁用按键或取消禁用</source>
-        <translation>*Щёлкните клавишу правой кнопкой, чтобы сбросить её настройку, отключить или снова включить её</translation>
+        <translation>*Щёлкните по клавише правой кнопкой, чтобы сбросить её настройку, отключить или снова включить её</translation>
     </message>
     <message>
         <source>动态键程(DKS)</source>
@@ -466,11 +466,11 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Удержание/нажатие (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation>Переключатель (TGL)</translation>
+        <translation>Переключение (TGL)</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
@@ -580,7 +580,7 @@ B</translation>
     </message>
     <message>
         <source>延迟</source>
-        <translation>Пауза</translation>
+        <translation>Задержка</translation>
     </message>
     <message>
         <source>开始录制</source>
@@ -600,7 +600,7 @@ B</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation>Одинаковая пауза (мс):</translation>
+        <translation>Одна задержка для всех (мс):</translation>
     </message>
     <message>
         <source>保存</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Ход клавиш</translation>
+        <translation>Точка срабатывания</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -643,7 +643,7 @@ B</translation>
     </message>
     <message>
         <source>轴体设置</source>
-        <translation>Тип переключателей</translation>
+        <translation>Тип свитчей</translation>
     </message>
     <message>
         <source>增稳算法</source>
@@ -651,7 +651,7 @@ B</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>Проверка</translation>
+        <translation>Тест</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Kaihua</translation>
+        <translation>Kailh</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Ход клавиш (все)</translation>
+        <translation>Точка срабатывания (все клавиши)</translation>
     </message>
 </context>
 <context>
@@ -780,11 +780,11 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Удержание/нажатие</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
-        <translation>Переключатель</translation>
+        <translation>Переключение</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -795,11 +795,11 @@ B</translation>
     <name>KeyTestPage</name>
     <message>
         <source>行程测试</source>
-        <translation>Проверка хода</translation>
+        <translation>Тест хода</translation>
     </message>
     <message>
         <source>按键测试</source>
-        <translation>Проверка клавиш</translation>
+        <translation>Тест клавиш</translation>
     </message>
     <message>
         <source>输入值</source>
@@ -882,7 +882,7 @@ B</translation>
     </message>
     <message>
         <source>延迟</source>
-        <translation>Пауза</translation>
+        <translation>Задержка</translation>
     </message>
     <message>
         <source>左键</source>
@@ -1010,7 +1010,7 @@ B</translation>
     <name>ModuleDKSItem</name>
     <message>
         <source>按下触发</source>
-        <translation>Срабатывание при нажатии</translation>
+        <translation>Пройдена точка срабатывания</translation>
     </message>
     <message>
         <source>按到底部</source>
@@ -1018,11 +1018,11 @@ B</translation>
     </message>
     <message>
         <source>离开底部</source>
-        <translation>Отпускание от упора</translation>
+        <translation>Отошла от упора</translation>
     </message>
     <message>
         <source>回到顶部</source>
-        <translation>Возврат вверх</translation>
+        <translation>Вернулась вверх</translation>
     </message>
     <message>
         <source>未设置功能</source>
@@ -1045,7 +1045,7 @@ B</translation>
     </message>
     <message>
         <source>按下触发</source>
-        <translation>Срабатывание при нажатии</translation>
+        <translation>Пройдена точка срабатывания</translation>
     </message>
     <message>
         <source>按到底部</source>
@@ -1053,11 +1053,11 @@ B</translation>
     </message>
     <message>
         <source>离开底部</source>
-        <translation>Отпускание от упора</translation>
+        <translation>Отошла от упора</translation>
     </message>
     <message>
         <source>回到顶部</source>
-        <translation>Возврат вверх</translation>
+        <translation>Вернулась вверх</translation>
     </message>
 </context>
 <context>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Громкость -</translation>
+        <translation>Громкость −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>Мой компьютер</translation>
+        <translation>Этот компьютер</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1400,7 +1400,7 @@ B</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Яркость экрана -</translation>
+        <translation>Яркость экрана −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>DPI по кругу</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Значение профиля</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Профиль +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Профиль −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Профили по кругу</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Профиль 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Профиль 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Профиль 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Профиль 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Профиль 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Эффект -</translation>
+        <translation>Эффект −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Яркость подсветки -</translation>
+        <translation>Яркость подсветки −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Скорость подсветки -</translation>
+        <translation>Скорость подсветки −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,31 +1604,31 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Цвет подсветки -</translation>
+        <translation>Цвет подсветки −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
-        <translation>Картинка 0</translation>
+        <translation>Рисунок 0</translation>
     </message>
     <message>
         <source>Use Pic 1</source>
-        <translation>Картинка 1</translation>
+        <translation>Рисунок 1</translation>
     </message>
     <message>
         <source>Use Pic 2</source>
-        <translation>Картинка 2</translation>
+        <translation>Рисунок 2</translation>
     </message>
     <message>
         <source>Use Pic 3</source>
-        <translation>Картинка 3</translation>
+        <translation>Рисунок 3</translation>
     </message>
     <message>
         <source>Use Pic 4</source>
-        <translation>Картинка 4</translation>
+        <translation>Рисунок 4</translation>
     </message>
     <message>
         <source>Use Pic</source>
-        <translation>Картинка</translation>
+        <translation>Рисунок</translation>
     </message>
     <message>
         <source>侧光开/关</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Скорость боковой подсветки -</translation>
+        <translation>Скорость боковой подсветки −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Цвет боковой подсветки -</translation>
+        <translation>Цвет боковой подсветки −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1712,7 +1712,7 @@ B</translation>
     </message>
     <message>
         <source>中键按下</source>
-        <translation>Средний клик</translation>
+        <translation>Клик колёсиком</translation>
     </message>
     <message>
         <source>光标前进</source>
@@ -1880,7 +1880,7 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Нажатие (мм)</translation>
+        <translation>Срабатывание (мм)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
@@ -1891,7 +1891,7 @@ B</translation>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>Выберите клавишу выше и задайте ей две функции: на короткое и на долгое нажатие (можно комбинации)</translation>
+        <translation>Выберите клавишу выше и задайте ей две функции: на нажатие и на удержание (можно комбинации)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1903,7 +1903,7 @@ B</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation>Время до срабатывания «удержания»</translation>
+        <translation>Время удержания до срабатывания «Удержания»</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Ход RT (все клавиши)</translation>
+        <translation>Чувствительность RT (все клавиши)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Связывает 2 клавиши (выберите каждую выше): если нажаты обе, действует нажатая последней</translation>
+        <translation>Связывает 2 клавиши (выберите каждую выше): если зажаты обе, действует нажатая последней (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>Видео</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2019,7 +2019,7 @@ B</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
-        <translation>Защищает от срабатываний из-за вибрации стола на предельных настройках и от допусков переключателей до 0,1 мм. При включении алгоритм внизу хода компенсирует разницу и делает клавиатуру стабильнее.</translation>
+        <translation>Защищает от срабатываний из-за вибрации стола на предельных настройках и от допусков свитчей до 0,1 мм. При включении алгоритм внизу хода компенсирует разницу и делает клавиатуру стабильнее.</translation>
     </message>
     <message>
         <source>已开启</source>
@@ -2034,11 +2034,11 @@ B</translation>
     <name>SwitchTypePage</name>
     <message>
         <source>轴体设置</source>
-        <translation>Тип переключателей</translation>
+        <translation>Тип свитчей</translation>
     </message>
     <message>
         <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
-        <translation>После замены переключателей выберите ниже нужный тип и щёлкните клавиши, где он установлен</translation>
+        <translation>После замены свитчей выберите ниже нужный тип и щёлкните по клавишам, где он стоит</translation>
     </message>
     <message>
         <source>炫光</source>
@@ -2077,14 +2077,14 @@ B</translation>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
-        <translation>Переключатель</translation>
+        <translation>Тумблер</translation>
     </message>
 </context>
 <context>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Отдельный ход нажатия и отпускания:</translation>
+        <translation>Срабатывание и отпускание раздельно:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,7 +2098,7 @@ B</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Отдельный ход повторного нажатия и сброса</translation>
+        <translation>Ход RT при нажатии и отпускании раздельно</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
@@ -2117,7 +2117,7 @@ B</translation>
     <name>TravelRuler</name>
     <message>
         <source>行程测试</source>
-        <translation>Проверка хода</translation>
+        <translation>Тест хода</translation>
     </message>
 </context>
 </TS>

@@ -57,11 +57,11 @@ B</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation>Avståndet från botten tills tangenten lyfts kallas ”dödzon”. Den minskar avbrott i magnetbrytaren på grund av störningar. Ställ in den efter behov; inom den utlöses ingenting.</translation>
+        <translation>Avståndet från botten tills tangenten lyfts kallas ”dödzon”. Den minskar avbrott i magnetswitchen på grund av störningar. Ställ in den efter behov; inom den utlöses ingenting.</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>Ställ in</translation>
+        <translation>Använd</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -187,7 +187,7 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Grundtecken</translation>
+        <translation>Grundtangenter</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>Rulla vänster</translation>
+        <translation>Hjul vänster</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>Rulla höger</translation>
+        <translation>Hjul höger</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>Rulla upp</translation>
+        <translation>Hjul upp</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>Rulla ned</translation>
+        <translation>Hjul ned</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Grundtecken</translation>
+        <translation>Grundtangenter</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Extratecken</translation>
+        <translation>Extratangenter</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -306,7 +306,7 @@ B</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation>Bekräfta</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
@@ -368,7 +368,7 @@ B</translation>
     </message>
     <message>
         <source>磁轴设置</source>
-        <translation>Inställningar för magnetbrytare</translation>
+        <translation>Magnetswitchar</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -462,11 +462,11 @@ B</translation>
     </message>
     <message>
         <source>动态键程(DKS)</source>
-        <translation>Dynamiskt tryck (DKS)</translation>
+        <translation>Dynamic Keystroke (DKS)</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Håll/tryck (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -580,7 +580,7 @@ B</translation>
     </message>
     <message>
         <source>延迟</source>
-        <translation>Paus</translation>
+        <translation>Fördröjning</translation>
     </message>
     <message>
         <source>开始录制</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Tangentväg</translation>
+        <translation>Aktiveringspunkt</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -643,7 +643,7 @@ B</translation>
     </message>
     <message>
         <source>轴体设置</source>
-        <translation>Brytartyp</translation>
+        <translation>Switchtyp</translation>
     </message>
     <message>
         <source>增稳算法</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -683,11 +683,11 @@ B</translation>
     </message>
     <message>
         <source>机械轴</source>
-        <translation>Mekanisk brytare</translation>
+        <translation>Mekanisk switch</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Kaihua-brytare</translation>
+        <translation>Kailh-switch</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -708,7 +708,7 @@ B</translation>
     <message>
         <source>矮磁轴</source>
         <extracomment>冠泰轴</extracomment>
-        <translation>Låg magnetbrytare</translation>
+        <translation>Magnetisk lågprofil</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
@@ -716,7 +716,7 @@ B</translation>
     </message>
     <message>
         <source>白泽轴</source>
-        <translation>Baize-brytare</translation>
+        <translation>Baize-switch</translation>
     </message>
     <message>
         <source>自定义</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Tangentväg (globalt)</translation>
+        <translation>Aktiveringspunkt (global)</translation>
     </message>
 </context>
 <context>
@@ -776,11 +776,11 @@ B</translation>
     </message>
     <message>
         <source>动态键程</source>
-        <translation>Dynamiskt tryck</translation>
+        <translation>Dynamic Keystroke</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Håll/tryck</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -795,7 +795,7 @@ B</translation>
     <name>KeyTestPage</name>
     <message>
         <source>行程测试</source>
-        <translation>Vägtest</translation>
+        <translation>Slaglängdstest</translation>
     </message>
     <message>
         <source>按键测试</source>
@@ -807,7 +807,7 @@ B</translation>
     </message>
     <message>
         <source>按下任意按键。无线连接下没有实时行程数据。</source>
-        <translation>Tryck på en tangent. Trådlöst finns ingen slaglängd i realtid.</translation>
+        <translation>Tryck på en tangent. Trådlöst finns inga realtidsdata om slaglängden.</translation>
     </message>
 </context>
 <context>
@@ -829,7 +829,7 @@ B</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation>Tryck ner varje tangent försiktigt i botten, en i taget, och håll den i minst 1 sekund tills den blir orange (tangenten är kalibrerad). Missa ingen; tangenter kan tryckas igen. Trådlöst visas inte antalet kalibrerade tangenter. Dra inte ur kabeln under kalibreringen.</translation>
+        <translation>Tryck ned varje tangent försiktigt i botten, en i taget, och håll den i minst 1 sekund tills den blir orange (tangenten är kalibrerad). Missa ingen; tangenter kan tryckas igen. Trådlöst visas inte antalet kalibrerade tangenter. Dra inte ur kabeln under kalibreringen.</translation>
     </message>
     <message>
         <source>取消</source>
@@ -848,7 +848,7 @@ B</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation>Tryck ner varje tangent försiktigt i botten, en i taget, och håll den i minst 1 sekund tills den blir orange (tangenten är kalibrerad). Missa ingen; tangenter kan tryckas igen. Trådlöst visas inte antalet kalibrerade tangenter. Dra inte ur kabeln under kalibreringen.</translation>
+        <translation>Tryck ned varje tangent försiktigt i botten, en i taget, och håll den i minst 1 sekund tills den blir orange (tangenten är kalibrerad). Missa ingen; tangenter kan tryckas igen. Trådlöst visas inte antalet kalibrerade tangenter. Dra inte ur kabeln under kalibreringen.</translation>
     </message>
     <message>
         <source>取消</source>
@@ -882,7 +882,7 @@ B</translation>
     </message>
     <message>
         <source>延迟</source>
-        <translation>Paus</translation>
+        <translation>Fördröjning</translation>
     </message>
     <message>
         <source>左键</source>
@@ -1010,7 +1010,7 @@ B</translation>
     <name>ModuleDKSItem</name>
     <message>
         <source>按下触发</source>
-        <translation>Nedtryckt förbi utlösning</translation>
+        <translation>Förbi aktiveringspunkten</translation>
     </message>
     <message>
         <source>按到底部</source>
@@ -1045,7 +1045,7 @@ B</translation>
     </message>
     <message>
         <source>按下触发</source>
-        <translation>Nedtryckt förbi utlösning</translation>
+        <translation>Förbi aktiveringspunkten</translation>
     </message>
     <message>
         <source>按到底部</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Volym -</translation>
+        <translation>Volym −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1396,11 +1396,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Ljusstyrka +</translation>
+        <translation>Skärmens ljusstyrka +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Ljusstyrka -</translation>
+        <translation>Skärmens ljusstyrka −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>Bläddra DPI</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Profilvärde</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Profil +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Profil −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Bläddra profiler</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Profil 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Profil 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Profil 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Profil 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Profil 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Ljuseffekt -</translation>
+        <translation>Ljuseffekt −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Bakgrundsljus -</translation>
+        <translation>Bakgrundsljus −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Ljushastighet -</translation>
+        <translation>Ljushastighet −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Ljusfärg -</translation>
+        <translation>Ljusfärg −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Sidoljushastighet -</translation>
+        <translation>Sidoljushastighet −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Sidoljusfärg -</translation>
+        <translation>Sidoljusfärg −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1880,7 +1880,7 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Tryck (mm)</translation>
+        <translation>Aktivering (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
@@ -1891,7 +1891,7 @@ B</translation>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>Välj en tangent ovan och ge den två funktioner, en för tryck och en för långt tryck (kombinationer stöds)</translation>
+        <translation>Välj en tangent ovan och ge den två funktioner: en för tryck och en för håll (kombinationer stöds)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>RT-väg (globalt)</translation>
+        <translation>RT-känslighet (global)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Kopplar 2 valda tangenter (välj var och en ovan): trycks båda gäller den som trycktes sist</translation>
+        <translation>Kopplar 2 valda tangenter (välj var och en ovan): hålls båda gäller den som trycktes sist (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2003,11 +2003,11 @@ B</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
-        <translation>RT Stab gör botten av vägen stabilare. En högre procent är stabilare men ger lite mer fördröjning.</translation>
+        <translation>RT Stab gör botten av slaglängden stabilare. En högre procent är stabilare men ger lite mer fördröjning.</translation>
     </message>
     <message>
         <source>0%(关闭)</source>
-        <translation>0 % (av)</translation>
+        <translation>0% (av)</translation>
     </message>
     <message>
         <source>防误触模式</source>
@@ -2019,7 +2019,7 @@ B</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
-        <translation>Förhindrar feltryck när bordet skakar vid extrema inställningar och jämnar ut brytartoleranser på 0,1 mm. Påslaget kompenserar algoritmen i botten och gör tangentbordet stabilare.</translation>
+        <translation>Förhindrar feltryck när bordet skakar vid extrema inställningar och jämnar ut switchtoleranser på upp till 0,1 mm. Påslaget kompenserar algoritmen i botten och gör tangentbordet stabilare.</translation>
     </message>
     <message>
         <source>已开启</source>
@@ -2034,11 +2034,11 @@ B</translation>
     <name>SwitchTypePage</name>
     <message>
         <source>轴体设置</source>
-        <translation>Brytartyp</translation>
+        <translation>Switchtyp</translation>
     </message>
     <message>
         <source>更换键盘轴体后，选择对应轴体的按键，点击下方对应的轴体选项进行设置来区分不同轴体</source>
-        <translation>Efter byte av brytare, välj rätt brytare nedan och klicka på tangenterna som har den</translation>
+        <translation>Efter byte av switchar: välj rätt switch nedan och klicka på tangenterna som har den</translation>
     </message>
     <message>
         <source>炫光</source>
@@ -2084,7 +2084,7 @@ B</translation>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Ställ in tryck och släpp separat:</translation>
+        <translation>Ställ in aktivering och släpp separat:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,11 +2098,11 @@ Av: Rapid Trigger slutar när tangenten stiger över aktiveringspunkten</transla
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Ställ in nytt tryck och återställning separat</translation>
+        <translation>Ställ in RT-väg för tryck och släpp separat</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
-        <translation>Väg till ny utlösning (mm)</translation>
+        <translation>Väg till ny aktivering (mm)</translation>
     </message>
     <message>
         <source>松开按键重置所需的行程(mm)</source>
@@ -2110,14 +2110,14 @@ Av: Rapid Trigger slutar när tangenten stiger över aktiveringspunkten</transla
     </message>
     <message>
         <source>设置</source>
-        <translation>Ställ in</translation>
+        <translation>Använd</translation>
     </message>
 </context>
 <context>
     <name>TravelRuler</name>
     <message>
         <source>行程测试</source>
-        <translation>Vägtest</translation>
+        <translation>Slaglängdstest</translation>
     </message>
 </context>
 </TS>

@@ -61,7 +61,7 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>ตั้งค่า</translation>
+        <translation>ใช้ค่านี้</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -187,7 +187,7 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>อักขระพื้นฐาน</translation>
+        <translation>ปุ่มพื้นฐาน</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
@@ -247,7 +247,7 @@ B</translation>
     </message>
     <message>
         <source>前移</source>
-        <translation>ไปหน้า</translation>
+        <translation>ไปข้างหน้า</translation>
     </message>
     <message>
         <source>后移</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>เลื่อนซ้าย</translation>
+        <translation>ล้อเลื่อนซ้าย</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>เลื่อนขวา</translation>
+        <translation>ล้อเลื่อนขวา</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>เลื่อนขึ้น</translation>
+        <translation>ล้อเลื่อนขึ้น</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>เลื่อนลง</translation>
+        <translation>ล้อเลื่อนลง</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>อักขระพื้นฐาน</translation>
+        <translation>ปุ่มพื้นฐาน</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>อักขระเพิ่มเติม</translation>
+        <translation>ปุ่มเพิ่มเติม</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -306,7 +306,7 @@ B</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation>ยืนยัน</translation>
+        <translation>ตกลง</translation>
     </message>
     <message>
         <source>取消</source>
@@ -392,19 +392,19 @@ B</translation>
     </message>
     <message>
         <source>板载 1</source>
-        <translation>ออนบอร์ด 1</translation>
+        <translation>โปรไฟล์ 1</translation>
     </message>
     <message>
         <source>板载 2</source>
-        <translation>ออนบอร์ด 2</translation>
+        <translation>โปรไฟล์ 2</translation>
     </message>
     <message>
         <source>板载 3</source>
-        <translation>ออนบอร์ด 3</translation>
+        <translation>โปรไฟล์ 3</translation>
     </message>
     <message>
         <source>板载 4</source>
-        <translation>ออนบอร์ด 4</translation>
+        <translation>โปรไฟล์ 4</translation>
     </message>
     <message>
         <source>对码</source>
@@ -416,7 +416,7 @@ B</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation>ปรับเทียบระยะกด</translation>
+        <translation>ปรับเทียบ</translation>
     </message>
     <message>
         <source>灯光设置</source>
@@ -466,7 +466,7 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>ค้าง/แตะ (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -549,7 +549,7 @@ B</translation>
     </message>
     <message>
         <source>还没有作品，给按键上色后点击“保存”</source>
-        <translation>ยังไม่มีผลงาน ลงสีปุ่มแล้วกด &quot;บันทึก&quot;</translation>
+        <translation>ยังไม่มีผลงาน ลงสีปุ่มแล้วกด “บันทึก”</translation>
     </message>
     <message>
         <source>提示</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>ตั้งค่าระยะกด</translation>
+        <translation>จุดทำงาน</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -647,11 +647,11 @@ B</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation>อัลกอริทึมเสถียรภาพ</translation>
+        <translation>เสถียรภาพ</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>ทดสอบจำลอง</translation>
+        <translation>ทดสอบ</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>สวิตช์ Kaihua</translation>
+        <translation>สวิตช์ Kailh</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>ระยะกดปุ่ม (ทั้งหมด)</translation>
+        <translation>จุดทำงาน (ทั้งหมด)</translation>
     </message>
 </context>
 <context>
@@ -780,7 +780,7 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>ค้าง/แตะ</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -844,7 +844,7 @@ B</translation>
     <name>LinearFixing2</name>
     <message>
         <source>行程校准</source>
-        <translation>ปรับเทียบระยะกด</translation>
+        <translation>ปรับเทียบ</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>เสียง -</translation>
+        <translation>เสียง −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>คอมพิวเตอร์ของฉัน</translation>
+        <translation>พีซีเครื่องนี้</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1396,11 +1396,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>ความสว่าง +</translation>
+        <translation>ความสว่างจอ +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>ความสว่าง -</translation>
+        <translation>ความสว่างจอ −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>วน DPI</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>ค่าโปรไฟล์</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>โปรไฟล์ +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>โปรไฟล์ −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>วนโปรไฟล์</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>โปรไฟล์ 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>โปรไฟล์ 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>โปรไฟล์ 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>โปรไฟล์ 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>โปรไฟล์ 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>เอฟเฟกต์ไฟ -</translation>
+        <translation>เอฟเฟกต์ไฟ −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>ความสว่างไฟ -</translation>
+        <translation>ความสว่างไฟ −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>ความเร็วไฟ -</translation>
+        <translation>ความเร็วไฟ −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>สีไฟ -</translation>
+        <translation>สีไฟ −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>ความเร็วไฟข้าง -</translation>
+        <translation>ความเร็วไฟข้าง −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>สีไฟข้าง -</translation>
+        <translation>สีไฟข้าง −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1880,18 +1880,18 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>กด (มม.)</translation>
+        <translation>จุดทำงาน (มม.)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation>ปล่อย (มม.)</translation>
+        <translation>จุดปล่อย (มม.)</translation>
     </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>เลือกปุ่มด้านบนแล้วตั้งสองฟังก์ชันสำหรับการแตะและการกดค้าง (รองรับคีย์ผสม)</translation>
+        <translation>เลือกปุ่มด้านบนแล้วตั้งสองฟังก์ชัน สำหรับการแตะและการกดค้าง (รองรับคีย์ผสม)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1903,7 +1903,7 @@ B</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation>ปรับเวลาที่ใช้เปิด “กดค้าง”</translation>
+        <translation>เวลาที่ต้องกดจึงจะนับเป็น “กดค้าง”</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>ระยะ RT (ทั้งหมด)</translation>
+        <translation>ความไว RT (ทั้งหมด)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>ผูก 2 ปุ่มที่เลือก (เลือกทีละปุ่มด้านบน) เมื่อกดพร้อมกันจะยึดปุ่มที่กดหลังสุด</translation>
+        <translation>ผูก 2 ปุ่มที่เลือก (เลือกทีละปุ่มด้านบน) เมื่อกดพร้อมกันจะยึดปุ่มที่กดหลังสุด (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>วิดีโอ</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2077,14 +2077,14 @@ B</translation>
     <name>ToggleButton</name>
     <message>
         <source>开关</source>
-        <translation>สวิตช์</translation>
+        <translation>สวิตช์เปิด/ปิด</translation>
     </message>
 </context>
 <context>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>ตั้งระยะกดและปล่อยแยกกัน:</translation>
+        <translation>ตั้งจุดทำงานและจุดปล่อยแยกกัน:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,7 +2098,7 @@ B</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>ตั้งระยะกดซ้ำและระยะรีเซ็ตแยกกัน</translation>
+        <translation>ตั้งระยะกดและปล่อยของ RT แยกกัน</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
@@ -2110,7 +2110,7 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>ตั้งค่า</translation>
+        <translation>ใช้ค่านี้</translation>
     </message>
 </context>
 <context>

@@ -61,7 +61,7 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>Ayarla</translation>
+        <translation>Uygula</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -122,7 +122,7 @@ B</translation>
     <name>DeviceOptionsPanel</name>
     <message>
         <source>键盘回报率</source>
-        <translation>Yoklama hızı</translation>
+        <translation>Polling rate</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
@@ -187,7 +187,7 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Temel karakterler</translation>
+        <translation>Temel tuşlar</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
@@ -255,19 +255,19 @@ B</translation>
     </message>
     <message>
         <source>左滚</source>
-        <translation>Sola kaydır</translation>
+        <translation>Tekerlek sola</translation>
     </message>
     <message>
         <source>右滚</source>
-        <translation>Sağa kaydır</translation>
+        <translation>Tekerlek sağa</translation>
     </message>
     <message>
         <source>上滚</source>
-        <translation>Yukarı kaydır</translation>
+        <translation>Tekerlek yukarı</translation>
     </message>
     <message>
         <source>下滚</source>
-        <translation>Aşağı kaydır</translation>
+        <translation>Tekerlek aşağı</translation>
     </message>
     <message>
         <source>向上滚屏</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Temel karakterler</translation>
+        <translation>Temel tuşlar</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Ek karakterler</translation>
+        <translation>Ek tuşlar</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -306,7 +306,7 @@ B</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation>Onayla</translation>
+        <translation>Tamam</translation>
     </message>
     <message>
         <source>取消</source>
@@ -329,11 +329,11 @@ B</translation>
     </message>
     <message>
         <source>键盘固件版本：V1.0</source>
-        <translation>Klavye yazılımı sürümü: V1.0</translation>
+        <translation>Klavye firmware sürümü: V1.0</translation>
     </message>
     <message>
         <source>无线连接器固件版本：V1.0</source>
-        <translation>Alıcı yazılımı sürümü: V1.0</translation>
+        <translation>Alıcı firmware sürümü: V1.0</translation>
     </message>
     <message>
         <source>当前版本：V1.0</source>
@@ -341,11 +341,11 @@ B</translation>
     </message>
     <message>
         <source>检查键盘固件更新</source>
-        <translation>Klavye yazılımı güncellemesini denetle</translation>
+        <translation>Klavye firmware güncellemesini denetle</translation>
     </message>
     <message>
         <source>检查无线连接器固件更新</source>
-        <translation>Alıcı yazılımı güncellemesini denetle</translation>
+        <translation>Alıcı firmware güncellemesini denetle</translation>
     </message>
     <message>
         <source>操作教学</source>
@@ -392,19 +392,19 @@ B</translation>
     </message>
     <message>
         <source>板载 1</source>
-        <translation>Dahili 1</translation>
+        <translation>Profil 1</translation>
     </message>
     <message>
         <source>板载 2</source>
-        <translation>Dahili 2</translation>
+        <translation>Profil 2</translation>
     </message>
     <message>
         <source>板载 3</source>
-        <translation>Dahili 3</translation>
+        <translation>Profil 3</translation>
     </message>
     <message>
         <source>板载 4</source>
-        <translation>Dahili 4</translation>
+        <translation>Profil 4</translation>
     </message>
     <message>
         <source>对码</source>
@@ -466,7 +466,7 @@ B</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Basılı tut/dokun (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -549,7 +549,7 @@ B</translation>
     </message>
     <message>
         <source>还没有作品，给按键上色后点击“保存”</source>
-        <translation>Henüz çalışma yok. Tuşları boyayıp Kaydet&apos;e basın</translation>
+        <translation>Henüz çalışma yok. Tuşları boyayıp “Kaydet”e basın</translation>
     </message>
     <message>
         <source>提示</source>
@@ -572,7 +572,7 @@ B</translation>
     </message>
     <message>
         <source>抬起</source>
-        <translation>Bırak</translation>
+        <translation>Bırakma</translation>
     </message>
     <message>
         <source>按下</source>
@@ -616,11 +616,11 @@ B</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
-        <translation>“Kaydı başlat”a tıkla ve tuşlara bas ya da “Ekle” ile bir olay ekle</translation>
+        <translation>“Kaydı başlat”a tıklayıp tuşlara basın ya da “Ekle” ile bir olay ekleyin</translation>
     </message>
     <message>
         <source>请在左侧选择一个宏</source>
-        <translation>Soldan bir makro seç</translation>
+        <translation>Soldan bir makro seçin</translation>
     </message>
     <message>
         <source>占用</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Tuş mesafesi</translation>
+        <translation>Tetikleme noktası</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -647,11 +647,11 @@ B</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation>Sabitleme</translation>
+        <translation>Stabilizasyon</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>Deneme testi</translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Kaihua switch</translation>
+        <translation>Kailh switch</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Tuş mesafesi (genel)</translation>
+        <translation>Tetikleme noktası (genel)</translation>
     </message>
 </context>
 <context>
@@ -780,7 +780,7 @@ B</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Basılı tut/dokun</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -1170,7 +1170,7 @@ B</translation>
     </message>
     <message>
         <source>极光</source>
-        <translation>Aurora</translation>
+        <translation>Kutup ışığı</translation>
     </message>
     <message>
         <source>雨滴</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Ses -</translation>
+        <translation>Ses −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>Bilgisayarım</translation>
+        <translation>Bu bilgisayar</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1396,11 +1396,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Parlaklık +</translation>
+        <translation>Ekran parlaklığı +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Parlaklık -</translation>
+        <translation>Ekran parlaklığı −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>DPI döngüsü</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Profil değeri</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Profil +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Profil −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Profil döngüsü</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Profil 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Profil 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Profil 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Profil 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Profil 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Arka ışık efekti -</translation>
+        <translation>Arka ışık efekti −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Arka ışık parlaklığı -</translation>
+        <translation>Arka ışık parlaklığı −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Arka ışık hızı -</translation>
+        <translation>Arka ışık hızı −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Arka ışık rengi -</translation>
+        <translation>Arka ışık rengi −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Yan ışık hızı -</translation>
+        <translation>Yan ışık hızı −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Yan ışık rengi -</translation>
+        <translation>Yan ışık rengi −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1880,7 +1880,7 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Basma (mm)</translation>
+        <translation>Tetikleme (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
@@ -1891,7 +1891,7 @@ B</translation>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>Yukarıdan bir tuş seçin ve dokunma ile uzun basma için iki işlev atayın (kombinasyonlar desteklenir)</translation>
+        <translation>Yukarıdan bir tuş seçin ve iki işlev atayın: biri dokunma, biri basılı tutma için (kombinasyonlar desteklenir)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>RT mesafesi (genel)</translation>
+        <translation>RT hassasiyeti (genel)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Seçilen 2 tuşu bağlar (her birini yukarıdan seçin): ikisi birden basılıyken son basılan geçerlidir</translation>
+        <translation>Seçilen 2 tuşu bağlar (her birini yukarıdan seçin): ikisi birden basılıyken son basılan geçerlidir (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1962,7 +1962,7 @@ B</translation>
     </message>
     <message>
         <source>长按</source>
-        <translation>Uzun bas</translation>
+        <translation>Basılı tut</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -1999,7 +1999,7 @@ B</translation>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
-        <translation>RT Stab (RT sabitleme)</translation>
+        <translation>RT Stab (RT stabilizasyonu)</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
@@ -2084,7 +2084,7 @@ B</translation>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Basma ve bırakma mesafesini ayrı ayarla:</translation>
+        <translation>Tetikleme ve bırakmayı ayrı ayarla:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,7 +2098,7 @@ Kapalı: Rapid Trigger, tuş tetikleme noktasının üstüne çıkınca sona ere
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Yeniden basma ve sıfırlama mesafesini ayrı ayarla</translation>
+        <translation>RT basma ve bırakma mesafesini ayrı ayarla</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
@@ -2110,7 +2110,7 @@ Kapalı: Rapid Trigger, tuş tetikleme noktasının üstüne çıkınca sona ere
     </message>
     <message>
         <source>设置</source>
-        <translation>Ayarla</translation>
+        <translation>Uygula</translation>
     </message>
 </context>
 <context>

@@ -61,7 +61,7 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>Đặt</translation>
+        <translation>Áp dụng</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -122,7 +122,7 @@ B</translation>
     <name>DeviceOptionsPanel</name>
     <message>
         <source>键盘回报率</source>
-        <translation>Tần số quét</translation>
+        <translation>Polling rate</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
@@ -187,7 +187,7 @@ B</translation>
     </message>
     <message>
         <source>基本字符</source>
-        <translation>Ký tự cơ bản</translation>
+        <translation>Phím cơ bản</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
@@ -294,11 +294,11 @@ B</translation>
     <name>DialogVKPicker</name>
     <message>
         <source>基本字符</source>
-        <translation>Ký tự cơ bản</translation>
+        <translation>Phím cơ bản</translation>
     </message>
     <message>
         <source>拓展字符</source>
-        <translation>Ký tự mở rộng</translation>
+        <translation>Phím mở rộng</translation>
     </message>
     <message>
         <source>组合键：</source>
@@ -306,7 +306,7 @@ B</translation>
     </message>
     <message>
         <source>确认</source>
-        <translation>Xác nhận</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
@@ -392,19 +392,19 @@ B</translation>
     </message>
     <message>
         <source>板载 1</source>
-        <translation>Bộ nhớ 1</translation>
+        <translation>Profile 1</translation>
     </message>
     <message>
         <source>板载 2</source>
-        <translation>Bộ nhớ 2</translation>
+        <translation>Profile 2</translation>
     </message>
     <message>
         <source>板载 3</source>
-        <translation>Bộ nhớ 3</translation>
+        <translation>Profile 3</translation>
     </message>
     <message>
         <source>板载 4</source>
-        <translation>Bộ nhớ 4</translation>
+        <translation>Profile 4</translation>
     </message>
     <message>
         <source>对码</source>
@@ -462,11 +462,11 @@ B</translation>
     </message>
     <message>
         <source>动态键程(DKS)</source>
-        <translation>Hành trình động (DKS)</translation>
+        <translation>Dynamic Keystroke (DKS)</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>Giữ/nhấn (MT)</translation>
+        <translation>Mod-Tap (MT)</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
@@ -616,7 +616,7 @@ B</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
-        <translation>Bấm “Bắt đầu ghi” rồi nhấn phím, hoặc bấm “Chèn” để thêm sự kiện</translation>
+        <translation>Nhấp “Bắt đầu ghi” rồi nhấn phím, hoặc nhấp “Chèn” để thêm sự kiện</translation>
     </message>
     <message>
         <source>请在左侧选择一个宏</source>
@@ -635,7 +635,7 @@ B</translation>
     <name>FrameMagic</name>
     <message>
         <source>行程设置</source>
-        <translation>Hành trình phím</translation>
+        <translation>Điểm kích hoạt</translation>
     </message>
     <message>
         <source>死区设置</source>
@@ -647,11 +647,11 @@ B</translation>
     </message>
     <message>
         <source>增稳算法</source>
-        <translation>Thuật toán ổn định</translation>
+        <translation>Ổn định</translation>
     </message>
     <message>
         <source>模拟测试</source>
-        <translation>Kiểm tra mô phỏng</translation>
+        <translation>Kiểm tra</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
@@ -659,7 +659,7 @@ B</translation>
     </message>
     <message>
         <source>高特</source>
-        <translation>Gaote</translation>
+        <translation>Outemu</translation>
     </message>
     <message>
         <source>磁玉</source>
@@ -687,7 +687,7 @@ B</translation>
     </message>
     <message>
         <source>凯华轴</source>
-        <translation>Switch Kaihua</translation>
+        <translation>Switch Kailh</translation>
     </message>
     <message>
         <source>星引力</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>Hành trình phím (toàn bộ)</translation>
+        <translation>Điểm kích hoạt (toàn bộ)</translation>
     </message>
 </context>
 <context>
@@ -776,11 +776,11 @@ B</translation>
     </message>
     <message>
         <source>动态键程</source>
-        <translation>Hành trình động</translation>
+        <translation>Dynamic Keystroke</translation>
     </message>
     <message>
         <source>按住单击</source>
-        <translation>Giữ/nhấn</translation>
+        <translation>Mod-Tap</translation>
     </message>
     <message>
         <source>切换开关</source>
@@ -1214,7 +1214,7 @@ B</translation>
     </message>
     <message>
         <source>一石二鸟</source>
-        <translation>Một mũi tên</translation>
+        <translation>Một công đôi việc</translation>
     </message>
     <message>
         <source>峰回路转</source>
@@ -1352,7 +1352,7 @@ B</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Âm lượng -</translation>
+        <translation>Âm lượng −</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1368,7 +1368,7 @@ B</translation>
     </message>
     <message>
         <source>我的电脑</source>
-        <translation>Máy tính của tôi</translation>
+        <translation>PC này</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1400,7 +1400,7 @@ B</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Độ sáng màn hình -</translation>
+        <translation>Độ sáng màn hình −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1436,15 +1436,15 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>Xoay vòng DPI</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI+</translation>
+        <translation>DPI +</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI-</translation>
+        <translation>DPI −</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>Giá trị profile</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>Profile +</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>Profile −</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>Xoay vòng profile</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>Profile 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>Profile 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>Profile 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>Profile 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>Profile 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1556,7 +1556,7 @@ B</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Hiệu ứng nền -</translation>
+        <translation>Hiệu ứng nền −</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1568,7 +1568,7 @@ B</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Độ sáng nền -</translation>
+        <translation>Độ sáng nền −</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1576,7 +1576,7 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Tốc độ nền -</translation>
+        <translation>Tốc độ nền −</translation>
     </message>
     <message>
         <source>背光速度+</source>
@@ -1604,7 +1604,7 @@ B</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Màu nền -</translation>
+        <translation>Màu nền −</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1648,7 +1648,7 @@ B</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Tốc độ viền -</translation>
+        <translation>Tốc độ viền −</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1660,7 +1660,7 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Màu viền -</translation>
+        <translation>Màu viền −</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -1880,7 +1880,7 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Nhấn (mm)</translation>
+        <translation>Kích hoạt (mm)</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
@@ -1891,7 +1891,7 @@ B</translation>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>Chọn phím ở trên và đặt hai chức năng, một cho nhấn và một cho nhấn giữ (hỗ trợ tổ hợp phím)</translation>
+        <translation>Chọn phím ở trên và đặt hai chức năng: một khi nhấn và một khi giữ (hỗ trợ tổ hợp phím)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>Hành trình RT (toàn bộ)</translation>
+        <translation>Độ nhạy RT (toàn bộ)</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Liên kết 2 phím đã chọn (chọn lần lượt ở trên): khi cả hai cùng được nhấn, phím nhấn sau cùng được ưu tiên</translation>
+        <translation>Liên kết 2 phím đã chọn (chọn lần lượt ở trên): khi cả hai cùng được nhấn, phím nhấn sau cùng được ưu tiên (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -2084,7 +2084,7 @@ B</translation>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Đặt riêng hành trình nhấn và nhả:</translation>
+        <translation>Đặt riêng điểm kích hoạt và điểm nhả:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2098,7 +2098,7 @@ Tắt: Rapid Trigger kết thúc khi phím nhả lên quá điểm kích hoạt<
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>
-        <translation>Đặt riêng hành trình nhấn lại và nhả</translation>
+        <translation>Đặt riêng hành trình RT khi nhấn và nhả</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
@@ -2110,7 +2110,7 @@ Tắt: Rapid Trigger kết thúc khi phím nhả lên quá điểm kích hoạt<
     </message>
     <message>
         <source>设置</source>
-        <translation>Đặt</translation>
+        <translation>Áp dụng</translation>
     </message>
 </context>
 <context>

@@ -150,7 +150,7 @@ B</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1 分鐘</translation>
     </message>
 </context>
 <context>
@@ -191,7 +191,7 @@ B</translation>
     </message>
     <message>
         <source>拓展字符(按键)</source>
-        <translation>擴充字元(按鍵)</translation>
+        <translation>擴充字元（按鍵）</translation>
     </message>
     <message>
         <source>宏设置</source>
@@ -199,7 +199,7 @@ B</translation>
     </message>
     <message>
         <source>播放方式:</source>
-        <translation>播放方式:</translation>
+        <translation>播放方式：</translation>
     </message>
     <message>
         <source>循环次数</source>
@@ -223,7 +223,7 @@ B</translation>
     </message>
     <message>
         <source>设置功能为:</source>
-        <translation>設定功能為:</translation>
+        <translation>設定功能為：</translation>
     </message>
     <message>
         <source>确定</source>
@@ -462,15 +462,15 @@ B</translation>
     </message>
     <message>
         <source>动态键程(DKS)</source>
-        <translation>動態鍵程(DKS)</translation>
+        <translation>動態鍵程（DKS）</translation>
     </message>
     <message>
         <source>按住/单击(MT)</source>
-        <translation>按住/單擊(MT)</translation>
+        <translation>按住/單擊（MT）</translation>
     </message>
     <message>
         <source>切换开关(TGL)</source>
-        <translation>切換開關(TGL)</translation>
+        <translation>切換開關（TGL）</translation>
     </message>
     <message>
         <source>Fn层按键设置</source>
@@ -493,7 +493,7 @@ B</translation>
     </message>
     <message>
         <source>颜色:</source>
-        <translation>顏色:</translation>
+        <translation>顏色：</translation>
     </message>
     <message>
         <source>取色器：</source>
@@ -509,7 +509,7 @@ B</translation>
     </message>
     <message>
         <source>写入层(图):</source>
-        <translation>寫入層(圖):</translation>
+        <translation>寫入層（圖）：</translation>
     </message>
     <message>
         <source>图1</source>
@@ -533,11 +533,11 @@ B</translation>
     </message>
     <message>
         <source>读取层(图):</source>
-        <translation>讀取層(圖):</translation>
+        <translation>讀取層（圖）：</translation>
     </message>
     <message>
         <source>作品名称:</source>
-        <translation>作品名稱:</translation>
+        <translation>作品名稱：</translation>
     </message>
     <message>
         <source>更新</source>
@@ -600,7 +600,7 @@ B</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation>設定固定延遲(ms):</translation>
+        <translation>設定固定延遲（ms）：</translation>
     </message>
     <message>
         <source>保存</source>
@@ -727,7 +727,7 @@ B</translation>
     <name>FrameMain</name>
     <message>
         <source>键程设置(全局)</source>
-        <translation>鍵程設定(全域)</translation>
+        <translation>鍵程設定（全域）</translation>
     </message>
 </context>
 <context>
@@ -960,7 +960,7 @@ B</translation>
     </message>
     <message>
         <source>请按下按键......</source>
-        <translation>請按下按鍵......</translation>
+        <translation>請按下按鍵……</translation>
     </message>
     <message>
         <source>鼠标按键</source>
@@ -995,7 +995,7 @@ B</translation>
     <name>ModuleDKSAdjust</name>
     <message>
         <source>按下(mm)</source>
-        <translation>按下(mm)</translation>
+        <translation>按下（mm）</translation>
     </message>
     <message>
         <source>取消</source>
@@ -1150,7 +1150,7 @@ B</translation>
     </message>
     <message>
         <source>灯光播放模式:</source>
-        <translation>燈光播放模式:</translation>
+        <translation>燈光播放模式：</translation>
     </message>
     <message>
         <source>常亮</source>
@@ -1436,7 +1436,7 @@ B</translation>
     </message>
     <message>
         <source>DPI-Loop</source>
-        <translation>DPI-Loop</translation>
+        <translation>DPI 循環</translation>
     </message>
     <message>
         <source>DPI+</source>
@@ -1464,39 +1464,39 @@ B</translation>
     </message>
     <message>
         <source>Profile-Value</source>
-        <translation>Profile-Value</translation>
+        <translation>設定檔值</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile+</translation>
+        <translation>設定檔+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile-</translation>
+        <translation>設定檔-</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
-        <translation>Profile-Loop</translation>
+        <translation>設定檔循環</translation>
     </message>
     <message>
         <source>Profile-1</source>
-        <translation>Profile-1</translation>
+        <translation>設定檔 1</translation>
     </message>
     <message>
         <source>Profile-2</source>
-        <translation>Profile-2</translation>
+        <translation>設定檔 2</translation>
     </message>
     <message>
         <source>Profile-3</source>
-        <translation>Profile-3</translation>
+        <translation>設定檔 3</translation>
     </message>
     <message>
         <source>Profile-4</source>
-        <translation>Profile-4</translation>
+        <translation>設定檔 4</translation>
     </message>
     <message>
         <source>Profile-5</source>
-        <translation>Profile-5</translation>
+        <translation>設定檔 5</translation>
     </message>
     <message>
         <source>L-Fn键</source>
@@ -1716,11 +1716,11 @@ B</translation>
     </message>
     <message>
         <source>光标前进</source>
-        <translation>游標前進</translation>
+        <translation>滑鼠前進</translation>
     </message>
     <message>
         <source>光标后退</source>
-        <translation>游標後退</translation>
+        <translation>滑鼠後退</translation>
     </message>
     <message>
         <source>滚轮-向左</source>
@@ -1880,11 +1880,11 @@ B</translation>
     <name>ModuleLinear</name>
     <message>
         <source>按下(mm)</source>
-        <translation>按下(mm)</translation>
+        <translation>按下（mm）</translation>
     </message>
     <message>
         <source>抬起(mm)</source>
-        <translation>抬起(mm)</translation>
+        <translation>抬起（mm）</translation>
     </message>
 </context>
 <context>
@@ -1921,7 +1921,7 @@ B</translation>
     <name>ModuleRtSet</name>
     <message>
         <source>RT行程设置(全局)</source>
-        <translation>RT 行程設定(全域)</translation>
+        <translation>RT 行程設定（全域）</translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1935,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>綁定 2 個選定按鍵(分別從上面選擇)，當兩個按鍵被同時按下時，以最後按下的按鍵為準</translation>
+        <translation>綁定 2 個選定按鍵（分別從上面選擇），當兩個按鍵被同時按下時，以最後按下的按鍵為準</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1977,7 +1977,7 @@ B</translation>
     <name>ModuleVideoItem</name>
     <message>
         <source>Movie</source>
-        <translation>Movie</translation>
+        <translation>影片</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
@@ -1999,7 +1999,7 @@ B</translation>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
-        <translation>RT Stab(RT 增穩演算法)</translation>
+        <translation>RT Stab（RT 增穩演算法）</translation>
     </message>
     <message>
         <source>RT Stab打开后，算法会介入增强轴体底部的稳定性。介入百分比越大，稳定性越强，延迟也会有所增加。</source>
@@ -2007,7 +2007,7 @@ B</translation>
     </message>
     <message>
         <source>0%(关闭)</source>
-        <translation>0%(關閉)</translation>
+        <translation>0%（關閉）</translation>
     </message>
     <message>
         <source>防误触模式</source>
@@ -2015,7 +2015,7 @@ B</translation>
     </message>
     <message>
         <source>(已关闭)</source>
-        <translation>(已關閉)</translation>
+        <translation>（已關閉）</translation>
     </message>
     <message>
         <source>防止极限性能下桌面抖动误触发或轴体公差可能造成还有0.1mm的行程公差。开启后优化底部按键算法补足行程差值提高键盘稳定性。</source>
@@ -2102,11 +2102,11 @@ B</translation>
     </message>
     <message>
         <source>再次按下按键触发所需的行程(mm)</source>
-        <translation>再次按下按鍵觸發所需的行程(mm)</translation>
+        <translation>再次按下按鍵觸發所需的行程（mm）</translation>
     </message>
     <message>
         <source>松开按键重置所需的行程(mm)</source>
-        <translation>鬆開按鍵重置所需的行程(mm)</translation>
+        <translation>鬆開按鍵重置所需的行程（mm）</translation>
     </message>
     <message>
         <source>设置</source>

@@ -64,6 +64,7 @@ Colour wheel(double turns)
 std::vector<KeySpot> lampsInRow(int count)
 {
     std::vector<KeySpot> lamps;
+    lamps.reserve(static_cast<std::size_t>(count));
     for (int lamp = 0; lamp < count; ++lamp)
         lamps.push_back({lamp, lamp + 0.5, 0.5});
     return lamps;

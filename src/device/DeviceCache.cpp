@@ -30,9 +30,9 @@ void storeByEffect(Caches &caches, const QByteArray &reply)
 {
     if (reply.size() < 2)
         return;
-    const int effect = qint8(reply.at(1));
-    if (effect >= 0 && effect < int(caches.size()))
-        caches[size_t(effect)] = reply;
+    const auto effect = quint8(reply.at(1));
+    if (effect < caches.size())
+        caches[effect] = reply;
     else
         qCDebug(lcDevice) << "Effect" << effect << "is none that can be kept";
 }
@@ -183,7 +183,8 @@ bool DeviceCache::holdsMagnetism(quint8 table, quint8 position) const
     const int index = magnetTableIndex(table);
     if (index < 0 || position >= MatrixPositions)
         return false;
-    return (position + 1) * MagnetTables[size_t(index)].width <= magnetTables[size_t(index)].size();
+    return (position + qsizetype(1)) * MagnetTables[size_t(index)].width <=
+           magnetTables[size_t(index)].size();
 }
 
 quint32 DeviceCache::magnetism(quint8 table, quint8 position) const

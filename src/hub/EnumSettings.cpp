@@ -12,7 +12,7 @@ namespace {
 
 // "VIDset1" is in the file too, but deliberately without effect: the vendors of the WS family are built in.
 constexpr QLatin1String CloudVendorsKey("VIDset0");
-constexpr qint64 LargestFile = 64 * 1024;
+constexpr qint64 LargestFile = qint64(64) * 1024;
 constexpr QLatin1String DefaultCloudVendors("0x3151, 0x38EE, 0x25A7, 0x05AC, 0x0461");
 
 QString cloudVendorsText()

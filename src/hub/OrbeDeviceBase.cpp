@@ -27,7 +27,7 @@ constexpr std::array CatalogueArrays{
     CatalogueArray{QLatin1String("hitBoxScreen"), HitBoxType},
 };
 
-constexpr qint64 LargestFile = 32 * 1024 * 1024;
+constexpr qint64 LargestFile = qint64(32) * 1024 * 1024;
 
 constexpr QLatin1String CustomListMarker("////CustomDeviceList////");
 constexpr qsizetype LeastCustomColumns = 6; // the name, a seventh, may be missing
@@ -43,7 +43,7 @@ QJsonDocument readCatalogue(QLatin1String name)
 
 std::optional<QString> nameIn(const QJsonArray &devices, quint32 deviceId)
 {
-    for (const QJsonValue &device : devices) {
+    for (const auto &device : devices) {
         if (quint32(device[QLatin1String("id")].toInt()) == deviceId)
             return device[QLatin1String("displayName")].toString().trimmed();
     }

@@ -124,7 +124,7 @@ void DeviceOptionsPanel::connectRow(size_t row)
     connect(rows.at(row).slider, &QSlider::valueChanged, edit,
             [edit](int value) { edit->setText(QString::number(value)); });
     connect(edit, &QLineEdit::textChanged, this, [this, row](const QString &text) { takeText(row, text); });
-    connect(edit, &QLineEdit::editingFinished, this, [this, row, edit] {
+    connect(edit, &QLineEdit::editingFinished, this, [row, edit] {
         bool isNumber = false;
         edit->text().toInt(&isNumber);
         const DialogDeviceConnect *connection = DialogDeviceConnect::instance();

@@ -45,9 +45,11 @@ QList<PickerKey> placed(const std::array<std::array<quint8, Columns>, Rows> &blo
             if (usage == 0)
                 continue;
             int left = int(column) * pitch;
-            const auto passed = std::ranges::count_if(gaps, [column](size_t gap) { return gap <= column; });
-            if (passed > 0)
+            if constexpr (GapCount > 0) {
+                const auto passed =
+                    std::ranges::count_if(gaps, [column](size_t gap) { return gap <= column; });
                 left += missing * int(passed) / int(GapCount);
+            }
             const bool tall = std::ranges::find(TallKeys, usage) != TallKeys.end();
             result.append({usage, QRect(left, int(row) * pitch, width, tall ? width + pitch : width)});
         }

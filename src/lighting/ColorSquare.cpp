@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -31,7 +32,7 @@ double unit(double value)
 /// A channel of 0 to 1 in eight bits, rounded twice as QColor rounds.
 QRgb toByte(double channel)
 {
-    const int raised = int(channel * FullChannel + 0.5) + 128;
+    const int raised = int(std::lround(channel * FullChannel)) + 128;
     return QRgb((raised - (raised >> 8)) >> 8); // a division by 257
 }
 
@@ -60,7 +61,7 @@ std::array<double, 3> takenAway(double hue)
 /// \a part of \a whole, in the steps in which QColor counts.
 double stepped(int part, int whole)
 {
-    return int(float(double(part) / whole) * FullChannel + 0.5F) / double(FullChannel);
+    return int(std::lround(float(double(part) / whole) * FullChannel)) / double(FullChannel);
 }
 
 /// The plane of one hue, one pixel wider and higher than \a size. Its colours are those of QColor::fromHsvF,

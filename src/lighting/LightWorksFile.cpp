@@ -57,7 +57,7 @@ QList<LightWork> LightWorksFile::load()
     const QJsonArray array = document.array();
     QList<LightWork> works;
     works.reserve(array.size());
-    for (const QJsonValue &value : array) {
+    for (const auto &value : array) {
         const QJsonObject object = value.toObject();
         const QJsonValue image = object[ImageKey];
         const QJsonValue name = object[NameKey];

@@ -23,12 +23,14 @@ constexpr int LeftDecimals = 2;
 /// The left slider has its longest travel at the lower end.
 double leftMillimetres(int slider)
 {
-    return (LongestTravel / LeftStep - slider / LeftStep) * LeftStep / Thousandths;
+    const int thousandths = (LongestTravel / LeftStep - slider / LeftStep) * LeftStep;
+    return thousandths / Thousandths;
 }
 
 double rightMillimetres(int slider)
 {
-    return slider / RightStep * RightStep / Thousandths;
+    const int thousandths = slider / RightStep * RightStep;
+    return thousandths / Thousandths;
 }
 
 } // namespace

@@ -68,7 +68,8 @@ void ModuleRtSet::connectControls()
 void ModuleRtSet::setValue(double millimetres)
 {
     const int thousandths = int(std::clamp(millimetres, 0.0, double(Longest)) * 1000.0 + Slack);
-    const auto value = float(thousandths / StepThousandths * StepThousandths / 1000.0);
+    const int stepped = thousandths / StepThousandths * StepThousandths;
+    const auto value = float(stepped / 1000.0);
     const float kept = std::clamp(value, Shortest, Longest);
     ui->lineEdit->setText(travel::toText(kept) + QStringLiteral(" mm"));
     Q_EMIT onSetValue(kept, 0);

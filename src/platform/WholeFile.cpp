@@ -56,7 +56,7 @@ qsizetype countUndrawn(const QString &path)
 
 bool copyContent(QIODevice &source, QSaveFile &target)
 {
-    constexpr qint64 Block = 1024 * 1024;
+    constexpr qint64 Block = qint64(1024) * 1024;
     while (!source.atEnd()) {
         const QByteArray block = source.read(Block);
         // On a full disk a write may be cut short without any error being told.

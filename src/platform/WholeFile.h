@@ -13,7 +13,8 @@ namespace platform {
 class WholeFile
 {
 public:
-    static constexpr qint64 UsualLimit = 16 * 1024 * 1024; ///< bytes; most of a user's work is far smaller
+    static constexpr qint64 UsualLimit =
+        qint64(16) * 1024 * 1024; ///< bytes; most of a user's work is far smaller
 
     /// Nothing is opened yet. An empty path gives a file that can't be read or written.
     /// A file of more than \a largest bytes isn't read.

@@ -105,7 +105,7 @@ Header readHeader(const QByteArray &content)
         return header;
     }
     QSet<quint8> ids;
-    for (const QJsonValue entry : *array) {
+    for (const auto &entry : *array) {
         auto macro = macroIn(entry.toObject(), header.isComplete);
         if (!macro || ids.contains(macro->id)) {
             header.isComplete = false;

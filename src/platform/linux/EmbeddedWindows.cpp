@@ -70,7 +70,7 @@ void EmbeddedWindows::insist()
 {
     if (--roundsLeft <= 0)
         insistTimer.stop();
-    for (auto window = parents.cbegin(); window != parents.cend();) {
+    for (auto window = parents.begin(); window != parents.end();) {
         const xcb_window_t actual = parentOf(window.key());
         const bool gone = actual == XCB_WINDOW_NONE;
         if (gone || (actual != window.value() && !reparent(window.key(), window.value()))) {

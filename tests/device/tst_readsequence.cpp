@@ -18,8 +18,6 @@ private Q_SLOTS:
     void firmwareDecidesTheTables_data();
     void firmwareDecidesTheTables();
     void ordersItsFrames();
-    void cacheEqualsTheKeyboard_data();
-    void cacheEqualsTheKeyboard();
     void gapsAreNeverShorterThanPromised();
     void oldMatricesStayUntilTheEnd();
     void lostReplyStopsIt();
@@ -75,43 +73,6 @@ void TestReadSequence::ordersItsFrames()
     QVERIFY2(tables.startsWith("0000 0001 0002 0003 0100"), tables);
     QVERIFY2(tables.trimmed().endsWith("0A07 FF00 FF01 FF02 FF03 FE00 FE01 FE02 FE03 FC00 FC01 FB00 FB01"),
              tables);
-}
-
-void TestReadSequence::cacheEqualsTheKeyboard_data()
-{
-    QTest::addColumn<QByteArray>("model");
-    QTest::newRow("wired") << QByteArray("wired-500");
-    QTest::newRow("over the air") << QByteArray("bluetooth");
-}
-
-void TestReadSequence::cacheEqualsTheKeyboard()
-{
-    QFETCH(QByteArray, model);
-    ConnectedKeyboard link(model);
-    link.keyboard->edit([](sim::KeyboardState &state) {
-        state.profile = 2;
-        state.keys.setKey(2, 1, 17, {0x03, 0x00, 0xE9, 0x00});
-        state.active().magnetism.setValue(0x00, 3, 555);
-        state.active().magnetism.setValue(0x0A, 127, 0x12345678);
-        state.active().magnetism.setValue(0xFB, 5, 60);
-        state.settings.debounce = 7;
-        state.settings.reportRate = 3;
-        state.settings.sleepTimes = {60, 120, 600, 65535};
-    });
-    QVERIFY(link.readAll());
-    const DeviceCache &cache = link.connection.deviceCache();
-    QCOMPARE(cache.currentProfile, quint8(2));
-    QCOMPARE(cache.keyEntry(17, 1), (KeyEntry{{0x03, 0x00, 0xE9, 0x00}}));
-    QCOMPARE(cache.keyEntry(0, 0), keys::entryAt(keys::defaultKeyMatrix(), 0));
-    QCOMPARE(cache.keyMatrix[3].size(), 512);
-    QCOMPARE(cache.fnMatrix[0].size(), 640);
-    QCOMPARE(cache.keyEntry(1, DeviceCache::FnLayer), keys::entryAt(keys::defaultFnMatrix(), 1));
-    QCOMPARE(cache.magnetism(0x00, 3), 555u);
-    QCOMPARE(cache.magnetism(0x0A, 127), 0x12345678u);
-    QCOMPARE(cache.magnetism(0xFB, 5), 60u);
-    QCOMPARE(cache.debounce, quint8(7));
-    QCOMPARE(cache.reportRate, quint8(3));
-    QCOMPARE(cache.sleepTimes, (std::array<quint16, 4>{60, 120, 600, 65535}));
 }
 
 void TestReadSequence::gapsAreNeverShorterThanPromised()

@@ -55,9 +55,12 @@ QString idText(quint16 id)
 void DialogDeviceConnect::DoConnectDevice(quint16 vid, quint16 pid, bool wireless, const QString &id,
                                           const QString &path)
 {
-    if (id == deviceIdText && path == devicePath)
+    // The ids too: some systems give the path of a keyboard that is gone to the next one.
+    if (id == deviceIdText && path == devicePath && vid == vendorId && pid == productId)
         return;
     isWireless = wireless;
+    vendorId = vid;
+    productId = pid;
     deviceIdText = id;
     devicePath = path;
     const QString pidText = idText(pid);

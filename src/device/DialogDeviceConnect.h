@@ -252,6 +252,8 @@ private:
     QString devicePath;
     float keyTravel = 0;
     bool isWireless = false;
+    quint16 vendorId = 0; ///< as given to DoConnectDevice, like the path
+    quint16 productId = 0;
     bool calibrating = false;
     bool readingAll = false;
     bool musicOn = false;

@@ -12,6 +12,14 @@ namespace {
 /// A device that no pass has met for longer than this is taken for gone, even if its path is still there.
 constexpr qint64 OnlineSeconds = 60;
 
+/// Whether it may be the same device, its keyboard exchanged behind a receiver or not. Some systems give the
+/// path of a device that is gone to the next one.
+bool isSameDevice(const DeviceEnumInfo &record, const DeviceSighting &sighting)
+{
+    return record.vendorId == sighting.vendorId && record.productId == sighting.productId &&
+           record.connectionType == quint8(sighting.connection) && record.family == sighting.family;
+}
+
 } // namespace
 
 DeviceList::DeviceList(QObject *parent)
@@ -49,12 +57,15 @@ void DeviceList::clear()
 
 void DeviceList::addDevice(const DeviceSighting &sighting)
 {
-    if (DeviceEnumInfo *known = recordOf(sighting.devicePath)) {
+    DeviceEnumInfo *known = recordOf(sighting.devicePath);
+    if (known && isSameDevice(*known, sighting)) {
         known->deviceId = sighting.deviceId;
         known->online = true;
         known->lastSeen = quint32(sighting.seenAt);
         return;
     }
+    if (known)
+        replace(known);
     Record record = newRecord(sighting.devicePath);
     *record = {.vendorId = sighting.vendorId,
                .productId = sighting.productId,
@@ -71,6 +82,18 @@ void DeviceList::addDevice(const DeviceSighting &sighting)
                .devicePath = sighting.devicePath};
     listed.append(record.get());
     records.push_back(std::move(record));
+}
+
+/// Its path is another device's now.
+void DeviceList::replace(DeviceEnumInfo *gone)
+{
+    listed.removeOne(gone);
+    const auto record =
+        std::find_if(records.begin(), records.end(), [gone](const Record &it) { return it.get() == gone; });
+    retired.push_back(std::move(*record));
+    records.erase(record);
+    if (gone == current)
+        tellLoss();
 }
 
 void DeviceList::applyPass(const ScanResult &pass)
@@ -110,8 +133,12 @@ void DeviceList::age(const ScanResult &pass)
         if (!seen || pass.finishedAt - qint64(device->lastSeen) > OnlineSeconds)
             device->online = false;
     }
-    if (current && listed.contains(current) && !pass.seenPaths.contains(current->devicePath)) {
-        qDebug().noquote() << "Lost:" << current->displayName << "Set OrbeReturn 1";
-        Q_EMIT currentDeviceLost();
-    }
+    if (current && listed.contains(current) && !pass.seenPaths.contains(current->devicePath))
+        tellLoss();
+}
+
+void DeviceList::tellLoss()
+{
+    qDebug().noquote() << "Lost:" << current->displayName << "Set OrbeReturn 1";
+    Q_EMIT currentDeviceLost();
 }

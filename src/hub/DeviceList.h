@@ -21,7 +21,8 @@ public:
     /// Applies the results of \a enumeration as its passes end, on this object's thread.
     void watch(OrbeDeviceEnum *enumeration);
 
-    /// Records are never removed but by clear(), and their order never changes.
+    /// Records are never removed but by clear() and by another device on their path; their order never
+    /// changes.
     const QList<DeviceEnumInfo *> &devices() const { return listed; }
     int onlineCount() const;
 
@@ -33,14 +34,15 @@ public:
     void clear();
 
     /// Sets the record with the path of \a sighting online, with the id it answered now; everything else of
-    /// the record stays. Without such a record a new one is appended.
+    /// the record stays. Without such a record, or if it is that of another vendor, product, connection or
+    /// family, a new one is appended and takes the place of the old.
     void addDevice(const DeviceSighting &sighting);
     /// Adds the sightings of a pass, ages all records and emits oEnumDeiceDone().
     void applyPass(const ScanResult &pass);
 
 Q_SIGNALS:
-    /// The current device was not on the bus in the pass that ended; whoever shows its page goes back to the
-    /// cards. Told at every such pass, before oEnumDeiceDone().
+    /// The current device was not on the bus in the pass that ended, or another one had its path; whoever
+    /// shows its page goes back to the cards. Told at every such pass, before oEnumDeiceDone().
     void currentDeviceLost();
     /// A pass has ended and the records are up to date.
     void oEnumDeiceDone();
@@ -50,7 +52,9 @@ private:
 
     DeviceEnumInfo *recordOf(const QString &devicePath) const;
     Record newRecord(const QString &devicePath);
+    void replace(DeviceEnumInfo *gone);
     void age(const ScanResult &pass);
+    void tellLoss();
 
     std::vector<Record> records;
     std::vector<Record> retired; ///< cleared from the list, but perhaps held by a card or a page

@@ -1,5 +1,6 @@
 #include "DeviceList.h"
 
+#include <functional>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -39,6 +40,8 @@ class TestDeviceList : public QObject
 private Q_SLOTS:
     void newDeviceIsListed();
     void knownDeviceKeepsAllButItsId();
+    void pathOfAnother_data();
+    void pathOfAnother();
     void ageing_data();
     void ageing();
     void lossOfTheCurrentDevice_data();
@@ -76,8 +79,6 @@ void TestDeviceList::knownDeviceKeepsAllButItsId()
     DeviceSighting again = sighting("a", 0x0EC3, Now + 60);
     again.displayName = QStringLiteral("Other");
     again.deviceType = MouseType;
-    again.connection = UsbConnection;
-    again.family = JmFamily;
     const DeviceEnumInfo *device = list.devices().constFirst();
     QVERIFY(!device->online);
     list.applyPass(pass({again}, Now + 60));
@@ -88,8 +89,43 @@ void TestDeviceList::knownDeviceKeepsAllButItsId()
     QCOMPARE(device->lastSeen, quint32(Now + 60));
     QCOMPARE(device->displayName, QStringLiteral("Board"));
     QCOMPARE(device->deviceType, 255);
-    QCOMPARE(device->connectionType, 2);
-    QCOMPARE(device->family, quint8(CloudFamily));
+}
+
+void TestDeviceList::pathOfAnother_data()
+{
+    QTest::addColumn<DeviceSighting>("other");
+    const auto row = [](const char *name, const std::function<void(DeviceSighting &)> &change) {
+        DeviceSighting other = sighting("a", 0x0EC3, Now + 1);
+        other.displayName = QStringLiteral("Other");
+        change(other);
+        QTest::newRow(name) << other;
+    };
+    row("vendor", [](DeviceSighting &other) { other.vendorId = 0x38EE; });
+    row("product", [](DeviceSighting &other) { other.productId = 0x5030; });
+    row("connection", [](DeviceSighting &other) { other.connection = UsbConnection; });
+    row("family", [](DeviceSighting &other) { other.family = JmFamily; });
+}
+
+/// Another keyboard at the path of one that is gone, which a page still shows.
+void TestDeviceList::pathOfAnother()
+{
+    QFETCH(DeviceSighting, other);
+    DeviceList list;
+    list.applyPass(pass({sighting("a"), sighting("b")}));
+    const DeviceEnumInfo *shown = list.devices().constFirst();
+    list.setCurrentDevice(shown);
+    QSignalSpy lost(&list, &DeviceList::currentDeviceLost);
+    list.applyPass(pass({other, sighting("b")}, Now + 1));
+
+    QCOMPARE(lost.count(), 1);
+    QCOMPARE(list.devices().size(), 2);
+    const DeviceEnumInfo &device = *list.devices().constLast();
+    QCOMPARE(device.displayName, QStringLiteral("Other"));
+    QCOMPARE(device.productId, other.productId);
+    QCOMPARE(device.connectionType, quint8(other.connection));
+    QVERIFY(device.online);
+    QCOMPARE(shown->displayName, QStringLiteral("Board"));
+    QCOMPARE(shown->vendorId, 0x3151);
 }
 
 void TestDeviceList::ageing_data()

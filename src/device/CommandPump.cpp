@@ -20,6 +20,9 @@ constexpr auto NextCommandDelay = 10ms;
 constexpr auto WirelessReadLimit = 400ms;
 constexpr size_t ReplyBufferLength = 1024;
 constexpr int MostStrayReports = 128;
+/// For how often and how long another thread's question over the air is waited for.
+constexpr int MostAirRefusals = 200;
+constexpr auto AirRefusalDelay = 5ms;
 
 using Clock = std::chrono::steady_clock;
 using ReplyBuffer = std::array<quint8, ReplyBufferLength>;
@@ -63,6 +66,7 @@ void waitUntil(Clock::time_point due, QObject *context, const std::function<void
 
 CommandPump::CommandPump(QObject *parent)
     : QObject(parent)
+    , air(airMutex(), std::defer_lock)
 {
     sendTimer.setSingleShot(true);
     sendTimer.setTimerType(Qt::PreciseTimer);
@@ -126,14 +130,27 @@ void CommandPump::armRead(std::chrono::milliseconds delay)
     ++armedSteps;
     waitUntil(Clock::now() + delay, this, [this, forLink = linkNumber, forRun = runNumber] {
         --armedReads;
-        if (forLink != linkNumber)
+        if (forLink != linkNumber) {
+            leaveAir();
             return;
+        }
         if (forRun == runNumber) {
             --armedSteps;
             readStep();
         } else {
             takeReply();
         }
+    });
+}
+
+/// The step has been counted for that run.
+void CommandPump::armPumpStep(std::chrono::milliseconds delay, quint64 forRun)
+{
+    waitUntil(Clock::now() + delay, this, [this, forRun] {
+        if (forRun != runNumber)
+            return;
+        --armedSteps;
+        pumpStep();
     });
 }
 
@@ -145,6 +162,11 @@ void CommandPump::pumpStep()
         Q_EMIT drained();
         return;
     }
+    if (isWireless && !mayUseAir()) {
+        ++armedSteps;
+        armPumpStep(AirRefusalDelay, runNumber);
+        return;
+    }
     lastCommand = framing::close(sendQueue.takeFirst());
     if (isWireless) {
         dropStrayReports();
@@ -154,6 +176,21 @@ void CommandPump::pumpStep()
     }
     // Not before the frame is out: a write that takes its time must not shorten the gap to the next one.
     armRead(isWireless ? WirelessReplyDelay : WiredReplyDelay);
+}
+
+bool CommandPump::mayUseAir()
+{
+    // A search that a device holds up doesn't silence the others for good.
+    const bool mine = air.owns_lock() || air.try_lock() || ++airRefusals > MostAirRefusals;
+    if (mine)
+        airRefusals = 0;
+    return mine;
+}
+
+void CommandPump::leaveAir()
+{
+    if (armedReads == 0 && air.owns_lock())
+        air.unlock();
 }
 
 // Over the air every answer goes to every program and thread that has the keyboard open, so the answer to a
@@ -182,9 +219,11 @@ void CommandPump::send(const QByteArray &report)
 
 QByteArray CommandPump::takeReply()
 {
-    if (!isConnected())
-        return {};
-    return isWireless ? takeWirelessReply(link->get()) : takeWiredReply(link->get());
+    QByteArray reply;
+    if (isConnected())
+        reply = isWireless ? takeWirelessReply(link->get()) : takeWiredReply(link->get());
+    leaveAir();
+    return reply;
 }
 
 void CommandPump::readStep()
@@ -198,10 +237,5 @@ void CommandPump::readStep()
     // Counted from here on, so that a group which a listener writes leaves the pace to the step below.
     ++armedSteps;
     Q_EMIT replied(reply);
-    waitUntil(Clock::now() + NextCommandDelay, this, [this, forRun] {
-        if (forRun != runNumber)
-            return;
-        --armedSteps;
-        pumpStep();
-    });
+    armPumpStep(NextCommandDelay, forRun);
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <chrono>
+#include <mutex>
 #include <QByteArray>
 #include <QList>
+#include <QMutex>
 #include <QObject>
 #include <QTimer>
 
@@ -64,6 +66,9 @@ Q_SIGNALS:
 private:
     void pumpStep();
     void armRead(std::chrono::milliseconds delay);
+    void armPumpStep(std::chrono::milliseconds delay, quint64 forRun);
+    bool mayUseAir();
+    void leaveAir();
     void beginRun();
     QByteArray takeReply();
     void send(const QByteArray &report);
@@ -74,6 +79,8 @@ private:
     QTimer sendTimer;
     const HidHandle *link = nullptr;
     bool isWireless = false;
+    std::unique_lock<QMutex> air;
+    int airRefusals = 0;
     int armedReads = 0; ///< of all runs: each of them will take one answer off the link
     int armedSteps = 0; ///< of this run: reads, and pump steps after an answer
     int groupDepth = 0;

@@ -1,6 +1,7 @@
 #include "HidHandle.h"
 
 #include "DeviceLog.h"
+#include "HotplugSource.h"
 
 #include <chrono>
 #include <hidapi/hidapi.h>
@@ -21,11 +22,16 @@ class OpenFailures
 public:
     void report(const QByteArray &path, const QString &cause)
     {
+        const bool refused = cause.contains(QLatin1String("permission denied"), Qt::CaseInsensitive) ||
+                             cause.contains(QLatin1String("EACCES"));
+        // Its turn to be given to the user may still come, and the news of it leads to another search.
+        if (refused && platform::devicesAreBeingSetUp())
+            return;
         const QMutexLocker lock(&mutex);
         if (reported.contains(path))
             return;
         reported.insert(path);
-        qCWarning(lcDevice).noquote() << "Can't open" << path << "-" << cause << remedy(cause);
+        qCWarning(lcDevice).noquote() << "Can't open" << path << "-" << cause << remedy(refused);
     }
 
     void forget(const QByteArray &path)
@@ -35,11 +41,10 @@ public:
     }
 
 private:
-    static QString remedy([[maybe_unused]] const QString &cause)
+    static QString remedy([[maybe_unused]] bool refused)
     {
 #ifdef Q_OS_LINUX
-        if (cause.contains(QLatin1String("permission denied"), Qt::CaseInsensitive) ||
-            cause.contains(QLatin1String("EACCES"))) {
+        if (refused) {
             return QStringLiteral("- copy packaging/linux/70-orbehub.rules to /etc/udev/rules.d and plug the "
                                   "keyboard in again");
         }
@@ -63,6 +68,12 @@ OpenFailures &openFailures()
 QMutex &hidLibraryMutex()
 {
     static auto &mutex = *new QMutex;
+    return mutex;
+}
+
+QMutex &airMutex()
+{
+    static auto &mutex = *new QMutex; // lives as long as hidLibraryMutex()
     return mutex;
 }
 

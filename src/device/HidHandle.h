@@ -13,6 +13,10 @@ using hid_device = hid_device_;
 /// holds it as well.
 QMutex &hidLibraryMutex();
 
+/// Over the air every answer goes to everyone who has the keyboard open. Who asks there holds this lock until
+/// the answer was taken, so that none is taken for another's. The GUI thread only tries for it.
+QMutex &airMutex();
+
 /// One open HID device, closed with the object. An object without a device is valid: all it does is answer
 /// "no". Use one object from one thread at a time.
 class HidHandle

@@ -3,11 +3,14 @@
 #include "CommandCatalogue.h"
 #include "EnumSettings.h"
 #include "Framing.h"
+#include "HidHandle.h"
 #include "ScanPass.h"
 #include "WiredProbe.h"
 
 #include <array>
 #include <hidapi/hidapi.h>
+#include <mutex>
+#include <QMutex>
 #include <QtEndian>
 
 using namespace std::chrono_literals;
@@ -27,19 +30,34 @@ constexpr QLatin1String ScreenVendorPath("HitScreen");
 constexpr int MostBluetoothRounds = 5;
 constexpr auto BluetoothAnswerTime = 200ms;
 constexpr auto PauseBeforeRetry = 100ms;
+constexpr auto AirPause = 5ms;
 constexpr std::size_t CommandAt = 2; // after report id and prefix
 constexpr std::size_t IdAt = 3;
+
+/// Waits for the pump's question to be answered; false if the thread is to leave.
+bool enterAir(std::unique_lock<QMutex> &air, const ScanStop &stop)
+{
+    while (!air.try_lock()) {
+        if (!stop.pause(AirPause))
+            return false;
+    }
+    return true;
+}
 
 quint32 askOverBluetooth(hid_device *device, const ScanStop &stop)
 {
     const QByteArray request = framing::wrapWireless(framing::close(QByteArray(1, char(command::GetInfo))));
     std::array<unsigned char, framing::WirelessReportLength> reply{};
     for (int round = 0; round < MostBluetoothRounds; ++round) {
+        std::unique_lock air(airMutex(), std::defer_lock);
+        if (!enterAir(air, stop))
+            return 0;
         hid_write(device, reinterpret_cast<const unsigned char *>(request.constData()),
                   std::size_t(request.size()));
         hid_read_timeout(device, reply.data(), reply.size(), int(BluetoothAnswerTime.count()));
         if (reply[CommandAt] == command::GetInfo || reply[CommandAt] == command::GetSideLedParam)
             break;
+        air.unlock();
         if (!stop.pause(PauseBeforeRetry))
             return 0;
     }

@@ -25,6 +25,10 @@ private:
     std::unique_ptr<Private> d;
 };
 
+/// Whether the system is at work on devices that came or went, so that one which can't be opened yet may be
+/// in a moment. Any thread. Always false on Windows.
+bool devicesAreBeingSetUp();
+
 /// The two parameters of a message that says that devices changed.
 struct DeviceChangeMessage
 {

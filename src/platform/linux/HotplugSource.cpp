@@ -53,6 +53,11 @@ HotplugSource::HotplugSource(QObject *parent)
 
 HotplugSource::~HotplugSource() = default;
 
+bool devicesAreBeingSetUp()
+{
+    return QFile::exists(QStringLiteral("/run/udev/queue")); // udev keeps it while events wait
+}
+
 std::optional<DeviceChangeMessage> deviceChangeMessage(const QByteArray &, void *)
 {
     return std::nullopt;

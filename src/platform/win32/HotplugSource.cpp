@@ -15,6 +15,11 @@ HotplugSource::HotplugSource(QObject *parent)
 
 HotplugSource::~HotplugSource() = default;
 
+bool devicesAreBeingSetUp()
+{
+    return false;
+}
+
 std::optional<DeviceChangeMessage> deviceChangeMessage(const QByteArray &eventType, void *message)
 {
     if (!eventType.startsWith("windows_"))

@@ -21,6 +21,12 @@ QString entryFile()
     return entryFolder() + QStringLiteral("/OrbeHub.desktop");
 }
 
+/// A text as the value of a key.
+QString stringValue(QString text)
+{
+    return text.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
+}
+
 /// A path as one argument of a desktop entry's Exec line: quoted, with what the quotes don't protect escaped,
 /// once for the quotes and once more for the string value that the line is.
 QString execArgument(const QString &path)
@@ -54,9 +60,10 @@ void enable(const QString &program)
 {
     QDir().mkpath(entryFolder());
     QSaveFile file(entryFile());
-    const QString entry =
-        QStringLiteral("[Desktop Entry]\nType=Application\nName=OrbeHub\nExec=%1\nTerminal=false\n")
-            .arg(execArgument(program));
+    // TryExec: a copy that was deleted is passed over without a word.
+    const QString entry = QStringLiteral("[Desktop Entry]\nType=Application\nName=OrbeHub\nTryExec=%1\n"
+                                         "Exec=%2\nTerminal=false\n")
+                              .arg(stringValue(program), execArgument(program));
     const QByteArray content = entry.toUtf8();
     const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
     if (!written || !file.commit())

@@ -24,6 +24,16 @@ QString unescaped(const QString &text)
     return result;
 }
 
+/// The string that stands at a key.
+QString valueOf(const QString &key, const QStringList &lines)
+{
+    for (const QString &line : lines) {
+        if (line.startsWith(key + QLatin1Char('=')))
+            return unescaped(line.mid(key.size() + 1));
+    }
+    return {};
+}
+
 } // namespace
 
 // The value is a string with escapes; in it stands an argument in quotes, with escapes of its own, and in
@@ -37,11 +47,12 @@ QString autostartedProgram()
     if (lines.first() != QLatin1String("[Desktop Entry]") ||
         !lines.contains(QLatin1String("Type=Application")))
         return QStringLiteral("no desktop entry");
-    const QString start = QStringLiteral("Exec=");
-    const QString value = unescaped(lines.filter(start).value(0).mid(start.size()));
+    const QString value = valueOf(QStringLiteral("Exec"), lines);
     if (!value.startsWith(QLatin1Char('"')) || !value.endsWith(QLatin1Char('"')))
         return QStringLiteral("not quoted");
-    return unescaped(value.mid(1, value.size() - 2)).replace(QStringLiteral("%%"), QStringLiteral("%"));
+    const QString program =
+        unescaped(value.mid(1, value.size() - 2)).replace(QStringLiteral("%%"), QStringLiteral("%"));
+    return valueOf(QStringLiteral("TryExec"), lines) == program ? program : QStringLiteral("not looked for");
 }
 
 void switchOffInTheDesktop()

@@ -3,6 +3,7 @@
 #include "Session.h"
 #include "Topmost.h"
 
+#include <array>
 #include <chrono>
 #include <QApplication>
 #include <QTest>
@@ -21,8 +22,6 @@ private Q_SLOTS:
     void cleanup();
 
     void topmostAndBack();
-    void neverShownWindowStaysAsItIs();
-    void keysAreSeenWhileActive_data();
     void keysAreSeenWhileActive();
     void idleTimeEndsWithAKey();
 
@@ -55,39 +54,25 @@ void TestOwnWindow::topmostAndBack()
     QCOMPARE(window->winId(), id);
     QCOMPARE(window->geometry(), place);
     QVERIFY(Desktop::isShown(id));
-}
-
-void TestOwnWindow::neverShownWindowStaysAsItIs()
-{
-    QWidget hidden;
-    platform::setTopmost(&hidden, true);
     platform::setTopmost(nullptr, true);
-    QVERIFY(!hidden.testAttribute(Qt::WA_WState_Created));
-}
-
-void TestOwnWindow::keysAreSeenWhileActive_data()
-{
-    QTest::addColumn<Qt::Key>("pressed");
-    QTest::addColumn<Key>("key");
-    QTest::newRow("Escape") << Qt::Key_Escape << Key::Escape;
-    QTest::newRow("Ctrl") << Qt::Key_Control << Key::Control;
-    QTest::newRow("D") << Qt::Key_D << Key::D;
 }
 
 void TestOwnWindow::keysAreSeenWhileActive()
 {
-    QFETCH(Qt::Key, pressed);
-    QFETCH(Key, key);
-    QVERIFY(!platform::isKeyDown(key));
-    const auto isHeld = [pressed, key] {
-        Desktop::holdKey(pressed, true); // again and again, as a held key repeats
-        return platform::isKeyDown(key);
-    };
-    QTRY_VERIFY(isHeld());
-    for (const Key other : {Key::Escape, Key::Control, Key::D})
-        QCOMPARE(platform::isKeyDown(other), other == key);
-    Desktop::holdKey(pressed, false);
-    QTRY_VERIFY(!platform::isKeyDown(key));
+    constexpr std::array Keys{std::pair{Qt::Key_Escape, Key::Escape},
+                              std::pair{Qt::Key_Control, Key::Control}, std::pair{Qt::Key_D, Key::D}};
+    for (const auto &[pressed, key] : Keys) {
+        const auto isHeld = [held = pressed, wanted = key] {
+            Desktop::holdKey(held, true); // again and again, as a held key repeats
+            return platform::isKeyDown(wanted);
+        };
+        QVERIFY(!platform::isKeyDown(key));
+        QTRY_VERIFY(isHeld());
+        for (const Key other : {Key::Escape, Key::Control, Key::D})
+            QCOMPARE(platform::isKeyDown(other), other == key);
+        Desktop::holdKey(pressed, false);
+        QTRY_VERIFY(!platform::isKeyDown(key));
+    }
 }
 
 void TestOwnWindow::idleTimeEndsWithAKey()

@@ -40,7 +40,6 @@ void TestProcesses::startedAndEnded_data()
 {
     QTest::addColumn<QString>("folderName");
     QTest::addColumn<QString>("program");
-    QTest::newRow("plain") << QStringLiteral("RyExe") << QStringLiteral("Orbe-Plain.exe");
     QTest::newRow("blanks, which must not start C:\\Program")
         << QStringLiteral("Program Files (x86)") << QStringLiteral("Orbe With Blanks.exe");
     QTest::newRow("characters of other scripts")

@@ -39,10 +39,10 @@ build_preset() { # preset, targets ...
 }
 
 # Starts a private X server with a window manager and a compositor, as a desktop has them, and sets DISPLAY; all of it ends with this script.
-start_xvfb() {
-    local number_file
+start_xvfb() { # size, such as 1600x1000
+    local number_file size=${1:-1600x1000}
     number_file=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
     xvfb_pid=$!
     for _ in $(seq 100); do
         [ -s "$number_file" ] && break

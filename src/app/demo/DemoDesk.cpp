@@ -22,6 +22,7 @@ constexpr int DigitKeys = 9;
 constexpr auto FingerPeriod = 600ms; ///< from one key to the next
 constexpr auto FingerTravel = 200ms; ///< of a key on its way down, and up
 constexpr auto FingerHold = 100ms;
+constexpr auto LongHold = 4s;
 constexpr auto PlacingDelay = 200ms; ///< the hub and the window manager have settled by then
 constexpr int WindowGap = 8;
 constexpr int TitleRoom = 32; ///< of a window whose frame isn't known yet
@@ -101,6 +102,12 @@ void DemoDesk::setPlugged(const QString &model, bool plugged)
         box->setChecked(plugged);
 }
 
+void DemoDesk::plugOnly(const QStringList &models)
+{
+    for (const QString &model : modelNames())
+        setPlugged(model, models.contains(model));
+}
+
 void DemoDesk::plug(const std::string &model, bool plugged)
 {
     virtualhid::DevicePtr &device = devices[model];
@@ -141,10 +148,22 @@ void DemoDesk::pressNextKey()
 {
     const keys::KeyPlace &key = keys::KeyboardLayout.at(nextKey);
     nextKey = (nextKey + 1) % keys::KeyboardLayout.size();
-    const int position = keys::PositionOfCode(key.code);
+    pressEverywhere(keys::PositionOfCode(key.code), FingerTravel, FingerHold);
+}
+
+bool DemoDesk::holdKey(int code)
+{
+    const quint8 position = keys::PositionOfCode(quint8(code));
+    if (position != keys::NoPosition)
+        pressEverywhere(position, FingerTravel, LongHold);
+    return position != keys::NoPosition;
+}
+
+void DemoDesk::pressEverywhere(int position, std::chrono::milliseconds travel, std::chrono::milliseconds hold)
+{
     for (const auto &[name, device] : devices) {
         if (device && device->isPlugged() && hasKeys(device->model()))
-            device->press(position, sim::FullTravel, FingerTravel, FingerHold);
+            device->press(position, sim::FullTravel, travel, hold);
     }
 }
 

@@ -30,6 +30,11 @@ public:
 
     /// Plugs a model in or pulls it out; a name that isn't there changes nothing.
     void setPlugged(const QString &model, bool plugged);
+    /// Leaves exactly these models plugged in.
+    void plugOnly(const QStringList &models);
+    /// A finger holds a key of all plugged keyboards at the bottom for a few seconds. False for a code that
+    /// no key has.
+    bool holdKey(int code);
     /// The window that shows a keyboard's light.
     DemoBoard *board() { return &lightBoard; }
 
@@ -44,6 +49,7 @@ private:
     void addFingers(QVBoxLayout *layout);
     void addBoard(QVBoxLayout *layout);
     void pressNextKey();
+    void pressEverywhere(int position, std::chrono::milliseconds travel, std::chrono::milliseconds hold);
     void offerKeyboards();
     void standBesideHub();
     void retranslate();

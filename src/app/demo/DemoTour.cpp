@@ -1,51 +1,24 @@
 #include "DemoTour.h"
 
 #include "DemoDesk.h"
-#include "DialogDeviceConnect.h"
-#include "FrameDeviceShow.h"
+#include "DemoHands.h"
 #include "HubWindow.h"
-#include "Languages.h"
-#include "ModuleLangMenu.h"
 
 #include <QApplication>
 #include <QDebug>
 #include <QElapsedTimer>
-#include <QMouseEvent>
-#include <QPushButton>
 #include <QScreen>
-#include <QStackedWidget>
 #include <QTimer>
 
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto StepPause = 400ms;
+constexpr auto WordPause = 150ms;
+constexpr auto PicturePause = 400ms; ///< what was done last has settled on the screen by then
+constexpr auto LongPause = 700ms;
 constexpr auto PollPeriod = 50ms;
 constexpr std::chrono::milliseconds Patience = 30s;
-constexpr int RainbowWave = 4; ///< effect number
-const qsizetype AllCards = DemoDesk::modelsWithCard().size();
-
-template <typename Widget>
-Widget *inHub(const char *name)
-{
-    return hubWindow()->findChild<Widget *>(QLatin1String(name));
-}
-
-qsizetype visibleCards()
-{
-    const auto cards = hubWindow()->findChildren<FrameDeviceShow *>();
-    return std::count_if(cards.begin(), cards.end(), [](const auto *card) { return card->isVisible(); });
-}
-
-void pressCard(int index)
-{
-    QWidget *card = FrameDeviceShow::acquire(index, nullptr);
-    const QPointF at(card->width() / 2.0, card->height() / 2.0);
-    QMouseEvent press(QEvent::MouseButtonPress, at, card->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
-                      {});
-    QApplication::sendEvent(card, &press);
-}
 
 } // namespace
 
@@ -60,13 +33,32 @@ DemoTour::DemoTour(const QString &pictureFolder, const QString &onlyLanguage, De
 
 void DemoTour::start()
 {
-    picture(QStringLiteral("splash"));
+    QApplication::setCursorFlashTime(0); // a caret that blinks is in some pictures and not in others
+    demohands::parkPointer();
     planCards();
     planLanguages();
     planNativeKeyboard();
+    planPages();
+    planTray();
+    planOtherDevices();
     planBoard();
-    act([] { QCoreApplication::exit(0); });
+    planEnd();
     next();
+}
+
+int DemoTour::outcome(int code) const
+{
+    if (folder.isEmpty())
+        return code;
+    if (ended)
+        qInfo("The tour took %d pictures", pictures);
+    return ended && !faulty ? code : 1;
+}
+
+void DemoTour::complain(const QString &fault)
+{
+    faulty = true;
+    qCritical().noquote() << fault;
 }
 
 void DemoTour::next()
@@ -78,11 +70,30 @@ void DemoTour::next()
 void DemoTour::act(std::function<void()> action)
 {
     steps.enqueue([this, action = std::move(action)] {
-        QTimer::singleShot(StepPause, this, [this, action] {
+        QTimer::singleShot(WordPause, this, [this, action] {
             action();
             next();
         });
     });
+}
+
+void DemoTour::actOn(const QString &word)
+{
+    if (word == QLatin1String(".")) {
+        steps.enqueue([this] { QTimer::singleShot(LongPause, this, &DemoTour::next); });
+        return;
+    }
+    const auto carryOut = [this](const QString &plain) {
+        if (!demohands::carryOut(plain, *desk))
+            complain(QStringLiteral("The tour doesn't find ") + plain);
+    };
+    // A dialog holds up whoever opens it, so that is left to a turn of its own.
+    if (word.startsWith(u'!'))
+        act([this, word, carryOut] {
+            QTimer::singleShot(0, this, [word, carryOut] { carryOut(word.mid(1)); });
+        });
+    else
+        act([word, carryOut] { carryOut(word); });
 }
 
 void DemoTour::waitFor(const QString &what, Condition condition)
@@ -96,7 +107,7 @@ void DemoTour::waitFor(const QString &what, Condition condition)
                 poll->deleteLater();
                 next();
             } else if (waiting.hasExpired(Patience.count())) {
-                qCritical().noquote() << "The tour waited in vain for" << what;
+                complain(QStringLiteral("The tour waited in vain for ") + what);
                 poll->deleteLater();
                 QCoreApplication::exit(1);
             }
@@ -107,60 +118,16 @@ void DemoTour::waitFor(const QString &what, Condition condition)
 
 void DemoTour::picture(const QString &name)
 {
-    act([this, name] {
-        const QPixmap shot = hubWindow()->screen()->grabWindow(0);
-        if (!shot.save(folder + QLatin1Char('/') + name + QStringLiteral(".png")))
-            qCritical().noquote() << "Can't write the picture" << name;
+    steps.enqueue([this, name] {
+        QTimer::singleShot(PicturePause, this, [this, name] {
+            const QRect place = demohands::whatShows();
+            const QPixmap shot =
+                hubWindow()->screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height());
+            if (shot.save(folder + QLatin1Char('/') + name + QStringLiteral(".png")))
+                ++pictures;
+            else
+                complain(QStringLiteral("The tour can't write the picture ") + name);
+            next();
+        });
     });
-}
-
-void DemoTour::planCards()
-{
-    waitFor(QStringLiteral("the cards"), [] { return visibleCards() == AllCards; });
-    picture(QStringLiteral("cards"));
-    act([this] { desk->setPlugged(QStringLiteral("wired-300"), false); });
-    waitFor(QStringLiteral("the card of the pulled keyboard to go"),
-            [] { return visibleCards() == AllCards - 1; });
-    picture(QStringLiteral("cards-one-pulled"));
-    act([this] { desk->setPlugged(QStringLiteral("wired-300"), true); });
-    waitFor(QStringLiteral("its card to come back"), [] { return visibleCards() == AllCards; });
-}
-
-void DemoTour::planLanguages()
-{
-    act([] { inHub<QPushButton>("pushButtonLang")->click(); });
-    picture(QStringLiteral("language-menu"));
-    for (int i = int(Languages.size()) - 1; i >= 0; --i) {
-        if (!language.isEmpty() && language != QLatin1String(Languages[size_t(i)].locale))
-            continue;
-        act([i] { hubWindow()->findChild<ModuleLangMenu *>()->selectLanguage(i); });
-        picture(QStringLiteral("cards-") + QLatin1String(Languages[size_t(i)].locale));
-    }
-}
-
-void DemoTour::planNativeKeyboard()
-{
-    act([] { pressCard(0); });
-    waitFor(QStringLiteral("the page of the keyboard"),
-            [] { return inHub<QStackedWidget>("stackedWidget")->currentIndex() == 2; });
-    waitFor(QStringLiteral("the read sequence to begin"),
-            [] { return DialogDeviceConnect::instance()->isReadingAll(); });
-    waitFor(QStringLiteral("its end"), [] { return !DialogDeviceConnect::instance()->isReadingAll(); });
-    picture(QStringLiteral("device"));
-    planPages();
-    act([] { DialogDeviceConnect::instance()->show(); });
-    picture(QStringLiteral("console"));
-    act([] { DialogDeviceConnect::instance()->hide(); });
-}
-
-/// The board comes last and alone, so that it covers nothing of the other pictures.
-void DemoTour::planBoard()
-{
-    act([this] {
-        hubWindow()->hide();
-        DialogDeviceConnect::instance()->DoSetLedEffect(RainbowWave, 0);
-        desk->board()->show();
-    });
-    picture(QStringLiteral("board"));
-    act([this] { desk->board()->hide(); });
 }

@@ -1,118 +1,194 @@
+// What the tour shows, in order.
+
+#include "DemoDesk.h"
+#include "DemoHands.h"
 #include "DemoTour.h"
 #include "DialogDeviceConnect.h"
+#include "FrameDeviceShow.h"
 #include "HubWindow.h"
-#include "KeyboardButton.h"
-#include "ModuleKeyboard.h"
+#include "Languages.h"
+#include "ModuleLangMenu.h"
 #include "PageSights.h"
-#include "SuperLabel.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDebug>
-#include <QDialog>
-#include <QMouseEvent>
-#include <QTabWidget>
-#include <QTimer>
+#include <QMenu>
+#include <QMessageBox>
+#include <QStackedWidget>
 
 namespace {
 
-constexpr int HexBase = 16;
+constexpr int RainbowWave = 4; ///< effect number
+constexpr int SiblingPage = 1;
+constexpr int NativePage = 2;
+const qsizetype AllCards = DemoDesk::modelsWithCard().size();
 
-/// The dialog on top, or else the hub.
-QWidget *stage()
+int pageNumber()
 {
-    if (QWidget *dialog = QApplication::activeModalWidget())
-        return dialog;
-    return hubWindow();
+    return hubWindow()->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"))->currentIndex();
 }
 
-template <typename Widget>
-Widget *showing(const QString &name)
+qsizetype visibleCards()
 {
-    const auto candidates = stage()->findChildren<Widget *>(name);
-    const auto found = std::find_if(candidates.begin(), candidates.end(),
-                                    [](const Widget *widget) { return widget->isVisible(); });
-    return found == candidates.end() ? nullptr : *found;
+    const auto cards = hubWindow()->findChildren<FrameDeviceShow *>();
+    return std::count_if(cards.begin(), cards.end(), [](const auto *card) { return card->isVisible(); });
 }
 
-void click(QWidget *widget)
+DialogDeviceConnect *connection()
 {
-    const QPointF at(widget->rect().center());
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, at, widget->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, {});
-        QApplication::sendEvent(widget, &event);
+    return DialogDeviceConnect::instance();
+}
+
+/// The menu of the tray icon, which no window owns.
+QMenu *trayMenu()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        auto *menu = qobject_cast<QMenu *>(window);
+        if (menu && !menu->parent() && !menu->actions().isEmpty())
+            return menu;
     }
-}
-
-bool showTab(const QString &name, int number)
-{
-    auto *tabs = showing<QTabWidget>(name);
-    if (tabs)
-        tabs->setCurrentIndex(number);
-    return tabs;
-}
-
-bool press(const QString &name)
-{
-    if (auto *place = showing<SuperLabel>(name)) {
-        click(place);
-        return true;
-    }
-    auto *button = showing<QAbstractButton>(name);
-    if (button)
-        button->click();
-    return button;
-}
-
-bool pressKey(const QString &code)
-{
-    auto *keyboard = showing<ModuleKeyboard>({});
-    KeyboardButton *key = keyboard ? keyboard->keyButton(quint8(code.toUInt(nullptr, HexBase))) : nullptr;
-    if (key)
-        click(key);
-    return key;
-}
-
-bool leaveDialog()
-{
-    auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (dialog)
-        dialog->reject();
-    return dialog;
-}
-
-/// False if there is no such thing to be seen.
-bool go(const QString &word)
-{
-    if (word == QLatin1String("^"))
-        return leaveDialog();
-    if (word.startsWith(u'@'))
-        return pressKey(word.mid(1));
-    const QStringList tab = word.split(u':');
-    return tab.size() > 1 ? showTab(tab.at(0), tab.at(1).toInt()) : press(word);
-}
-
-void goOrComplain(const QString &word)
-{
-    if (!go(word))
-        qCritical().noquote() << "The tour doesn't find" << word;
+    return nullptr;
 }
 
 } // namespace
 
+void DemoTour::planCards()
+{
+    if (!language.isEmpty())
+        planLanguage(language);
+    picture(QStringLiteral("splash"));
+    waitFor(QStringLiteral("the cards"), [] { return visibleCards() == AllCards; });
+    picture(QStringLiteral("cards"));
+    act([this] { desk->setPlugged(QStringLiteral("wired-300"), false); });
+    waitFor(QStringLiteral("the card of the pulled keyboard to go"),
+            [] { return visibleCards() == AllCards - 1; });
+    picture(QStringLiteral("cards-one-pulled"));
+    act([this] { desk->setPlugged(QStringLiteral("wired-300"), true); });
+    waitFor(QStringLiteral("its card to come back"), [] { return visibleCards() == AllCards; });
+}
+
+void DemoTour::planLanguage(const QString &locale)
+{
+    const auto *const row = std::find_if(Languages.begin(), Languages.end(), [&locale](const auto &each) {
+        return locale == QLatin1String(each.locale);
+    });
+    act([this, row, locale] {
+        if (row == Languages.end())
+            complain(QStringLiteral("The hub has no language ") + locale);
+        else
+            hubWindow()->findChild<ModuleLangMenu *>()->selectLanguage(int(row - Languages.begin()));
+    });
+}
+
+/// Comes to its end in the first language of the table.
+void DemoTour::planLanguages()
+{
+    actOn(QStringLiteral("pushButtonLang"));
+    picture(QStringLiteral("language-menu"));
+    if (!language.isEmpty()) {
+        planLanguage(language);
+        return;
+    }
+    for (auto row = Languages.rbegin(); row != Languages.rend(); ++row) {
+        const QString locale = QLatin1String(row->locale);
+        planLanguage(locale);
+        picture(QStringLiteral("cards-") + locale);
+    }
+}
+
+void DemoTour::planNativeKeyboard()
+{
+    actOn(QStringLiteral("FrameDeviceShow"));
+    waitFor(QStringLiteral("the page of the keyboard"), [] { return pageNumber() == NativePage; });
+    waitFor(QStringLiteral("the read sequence to begin"), [] { return connection()->isReadingAll(); });
+    picture(QStringLiteral("reading"));
+    waitFor(QStringLiteral("its end"), [] { return !connection()->isReadingAll(); });
+}
+
 void DemoTour::planPages()
 {
     for (const PageSight &sight : PageSights) {
-        waitFor(QStringLiteral("the end of a read"),
-                [] { return !DialogDeviceConnect::instance()->isReadingAll(); });
+        waitFor(QStringLiteral("the end of a read"), [] { return !connection()->isReadingAll(); });
+        act([] { demohands::parkPointer(); });
         const QStringList way = QString::fromLatin1(sight.way).split(u' ');
-        for (const QString &word : way) {
-            // A dialog holds up whoever opens it, so that is left to a turn of its own.
-            if (word.startsWith(u'!'))
-                act([this, word] { QTimer::singleShot(0, this, [word] { goOrComplain(word.mid(1)); }); });
-            else
-                act([word] { goOrComplain(word); });
-        }
+        for (const QString &word : way)
+            actOn(word);
         picture(QString::fromLatin1(sight.picture));
     }
+    act([] { connection()->show(); });
+    picture(QStringLiteral("console"));
+    act([] { connection()->hide(); });
+}
+
+void DemoTour::planTray()
+{
+    act([this] {
+        if (QMenu *menu = trayMenu())
+            menu->popup(hubWindow()->mapToGlobal(hubWindow()->rect().center()));
+        else
+            complain(QStringLiteral("The tray has no menu"));
+    });
+    picture(QStringLiteral("tray-menu"));
+    act([] { trayMenu()->close(); });
+}
+
+void DemoTour::planOtherDevices()
+{
+    actOn(QStringLiteral("label8"));
+    act([this] { desk->plugOnly({QStringLiteral("bluetooth")}); });
+    waitFor(QStringLiteral("the card of the wireless keyboard"), [] { return visibleCards() == 1; });
+    actOn(QStringLiteral("FrameDeviceShow"));
+    waitFor(QStringLiteral("its page"), [] { return pageNumber() == NativePage; });
+    waitFor(QStringLiteral("the read over the air to begin"), [] { return connection()->isReadingAll(); });
+    waitFor(QStringLiteral("the end of the read over the air"), [] { return !connection()->isReadingAll(); });
+    actOn(QStringLiteral("label1"));
+    picture(QStringLiteral("wireless"));
+    act([this] { desk->plugOnly({}); });
+    waitFor(QStringLiteral("the last card to go"), [] { return pageNumber() == 0 && visibleCards() == 0; });
+    picture(QStringLiteral("no-keyboard"));
+    act([this] { desk->plugOnly({QStringLiteral("cloud")}); });
+    waitFor(QStringLiteral("the only card"), [] { return visibleCards() == 1; });
+    picture(QStringLiteral("cards-one"));
+    actOn(QStringLiteral("FrameDeviceShow"));
+    waitFor(QStringLiteral("the page of the sibling driver"), [] { return pageNumber() == SiblingPage; });
+    for (int i = 0; i < 4; ++i)
+        actOn(QStringLiteral("."));
+    picture(QStringLiteral("sibling"));
+    act([this] { desk->plugOnly({}); });
+    waitFor(QStringLiteral("the sibling's device to go"), [] { return pageNumber() == 0; });
+    act([this] { desk->plugOnly(DemoDesk::modelsWithCard()); });
+    waitFor(QStringLiteral("all the cards"), [] { return pageNumber() == 0 && visibleCards() == AllCards; });
+}
+
+/// The demo's own windows come alone, so that they cover nothing of the other pictures.
+void DemoTour::planBoard()
+{
+    act([this] {
+        hubWindow()->hide();
+        connection()->DoSetLedEffect(RainbowWave, 0);
+        desk->board()->show();
+    });
+    picture(QStringLiteral("board"));
+    act([this] {
+        desk->board()->hide();
+        desk->show();
+    });
+    actOn(QStringLiteral("."));
+    picture(QStringLiteral("desk"));
+    act([this] {
+        desk->hide();
+        desk->board()->hide();
+        hubWindow()->show();
+    });
+}
+
+void DemoTour::planEnd()
+{
+    actOn(QStringLiteral("!pushButtonExit"));
+    act([this] {
+        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ended = question;
+        if (question)
+            question->button(QMessageBox::Yes)->click();
+    });
 }

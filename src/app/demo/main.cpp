@@ -63,5 +63,5 @@ int main(int argc, char **argv)
         QDir().mkpath(wishes.tourFolder);
         QTimer::singleShot(0, &tour, &DemoTour::start);
     }
-    return start.run();
+    return tour.outcome(start.run());
 }

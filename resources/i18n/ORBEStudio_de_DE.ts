@@ -283,7 +283,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>Makro</translation>
+        <translation>Makro </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -921,7 +921,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>Meine Geräte</translation>
+        <translation>Meine Geräte </translation>
     </message>
     <message>
         <source>提示</source>
@@ -1396,11 +1396,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Bildschirmhelligkeit +</translation>
+        <translation>Bildschirm heller</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Bildschirmhelligkeit −</translation>
+        <translation>Bildschirm dunkler</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1886,6 +1886,10 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>Loslassen (mm)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (mm)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
@@ -1914,7 +1918,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>Neues Makro</translation>
+        <translation>Neues Makro </translation>
     </message>
 </context>
 <context>
@@ -1982,6 +1986,52 @@ B</translation>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
         <translation>Orbe 7090 Anleitung: Makros</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Alles au&amp;swählen</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Er&amp;höhen</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Verringern</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Wieder&amp;holen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>E&amp;infügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
     </message>
 </context>
 <context>

@@ -283,7 +283,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>Macro</translation>
+        <translation>Macro </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -438,11 +438,11 @@ B</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation>Advanced keys</translation>
+        <translation>Advanced</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Other settings</translation>
+        <translation>Other</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -712,7 +712,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst magnetic</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
@@ -921,7 +921,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>My devices</translation>
+        <translation>My devices </translation>
     </message>
     <message>
         <source>提示</source>
@@ -1026,7 +1026,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>No function set</translation>
+        <translation>Not set</translation>
     </message>
     <message>
         <source>已开启</source>
@@ -1886,6 +1886,10 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>Release (mm)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (mm)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
@@ -1914,7 +1918,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>New macro</translation>
+        <translation>New macro </translation>
     </message>
 </context>
 <context>
@@ -1970,7 +1974,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>No function set</translation>
+        <translation>Not set</translation>
     </message>
 </context>
 <context>
@@ -1982,6 +1986,52 @@ B</translation>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
         <translation>Orbe 7090 guide: macro settings</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Select all</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Step &amp;up</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Step &amp;down</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select all</translation>
     </message>
 </context>
 <context>
@@ -2050,7 +2100,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst magnetic</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>磁玉</source>

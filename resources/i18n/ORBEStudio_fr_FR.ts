@@ -57,7 +57,7 @@ B</translation>
     </message>
     <message>
         <source>触底到抬起前的距离俗称“死区”。死区可减少磁轴因环境干扰带来的断触问题，磁轴的底部可自定义，您可根据个人需求自定义死区，设定之后，此段行程不会触发。</source>
-        <translation>La distance entre la butée et le début de la remontée s’appelle « zone morte ». Elle évite les coupures du switch magnétique dues aux perturbations. Réglez-la à votre goût ; rien ne se déclenche dans cette zone.</translation>
+        <translation>La distance entre la butée et le début de la remontée s’appelle «&#xa0;zone morte&#xa0;». Elle évite les coupures du switch magnétique dues aux perturbations. Réglez-la à votre goût&#xa0;; rien ne se déclenche dans cette zone.</translation>
     </message>
     <message>
         <source>设置</source>
@@ -88,7 +88,7 @@ B</translation>
     </message>
     <message>
         <source>单击按键即可按下它，部分灯效会作出反应。</source>
-        <translation>Cliquez sur une touche pour l’enfoncer ; certains effets réagissent.</translation>
+        <translation>Cliquez sur une touche pour l’enfoncer&#xa0;; certains effets réagissent.</translation>
     </message>
     <message>
         <source>灯光已关闭</source>
@@ -107,7 +107,7 @@ B</translation>
     </message>
     <message>
         <source>插入或拔出虚拟设备：</source>
-        <translation>Brancher ou débrancher des appareils virtuels :</translation>
+        <translation>Brancher ou débrancher des appareils virtuels&#xa0;:</translation>
     </message>
     <message>
         <source>依次按下所有按键</source>
@@ -126,11 +126,11 @@ B</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
-        <translation>2.4G : extinction</translation>
+        <translation>2.4G&#xa0;: extinction</translation>
     </message>
     <message>
         <source>蓝牙关闭背光</source>
-        <translation>Bluetooth : extinction</translation>
+        <translation>Bluetooth&#xa0;: extinction</translation>
     </message>
     <message>
         <source>2.4G深度睡眠时间</source>
@@ -199,7 +199,7 @@ B</translation>
     </message>
     <message>
         <source>播放方式:</source>
-        <translation>Mode de lecture :</translation>
+        <translation>Mode de lecture&#xa0;:</translation>
     </message>
     <message>
         <source>循环次数</source>
@@ -223,7 +223,7 @@ B</translation>
     </message>
     <message>
         <source>设置功能为:</source>
-        <translation>Affecter la fonction :</translation>
+        <translation>Affecter la fonction&#xa0;:</translation>
     </message>
     <message>
         <source>确定</source>
@@ -283,7 +283,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>Macro</translation>
+        <translation>Macro </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -302,7 +302,7 @@ B</translation>
     </message>
     <message>
         <source>组合键：</source>
-        <translation>Combinaison de touches :</translation>
+        <translation>Combinaison de touches&#xa0;:</translation>
     </message>
     <message>
         <source>确认</source>
@@ -325,19 +325,19 @@ B</translation>
     </message>
     <message>
         <source>设备名称：Orbe 7090</source>
-        <translation>Nom de l’appareil : Orbe 7090</translation>
+        <translation>Nom de l’appareil&#xa0;: Orbe 7090</translation>
     </message>
     <message>
         <source>键盘固件版本：V1.0</source>
-        <translation>Version du micrologiciel du clavier : V1.0</translation>
+        <translation>Version du micrologiciel du clavier&#xa0;: V1.0</translation>
     </message>
     <message>
         <source>无线连接器固件版本：V1.0</source>
-        <translation>Version du micrologiciel du récepteur : V1.0</translation>
+        <translation>Version du micrologiciel du récepteur&#xa0;: V1.0</translation>
     </message>
     <message>
         <source>当前版本：V1.0</source>
-        <translation>Version actuelle : V1.0</translation>
+        <translation>Version actuelle&#xa0;: V1.0</translation>
     </message>
     <message>
         <source>检查键盘固件更新</source>
@@ -438,11 +438,11 @@ B</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation>Touches avancées</translation>
+        <translation>Avancées</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Autres réglages</translation>
+        <translation>Autres</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -493,15 +493,15 @@ B</translation>
     </message>
     <message>
         <source>颜色:</source>
-        <translation>Couleur :</translation>
+        <translation>Couleur&#xa0;:</translation>
     </message>
     <message>
         <source>取色器：</source>
-        <translation>Pipette :</translation>
+        <translation>Pipette&#xa0;:</translation>
     </message>
     <message>
         <source>随机颜色：</source>
-        <translation>Couleur aléatoire :</translation>
+        <translation>Couleur aléatoire&#xa0;:</translation>
     </message>
     <message>
         <source>清除设置</source>
@@ -509,7 +509,7 @@ B</translation>
     </message>
     <message>
         <source>写入层(图):</source>
-        <translation>Écrire dans :</translation>
+        <translation>Écrire dans&#xa0;:</translation>
     </message>
     <message>
         <source>图1</source>
@@ -533,11 +533,11 @@ B</translation>
     </message>
     <message>
         <source>读取层(图):</source>
-        <translation>Lire depuis :</translation>
+        <translation>Lire depuis&#xa0;:</translation>
     </message>
     <message>
         <source>作品名称:</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>更新</source>
@@ -557,7 +557,7 @@ B</translation>
     </message>
     <message>
         <source>确认要删除此作品吗？</source>
-        <translation>Supprimer cette création ?</translation>
+        <translation>Supprimer cette création&#xa0;?</translation>
     </message>
     <message>
         <source>我的作品%1</source>
@@ -600,7 +600,7 @@ B</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation>Délai fixe (ms) :</translation>
+        <translation>Délai fixe (ms)&#xa0;:</translation>
     </message>
     <message>
         <source>保存</source>
@@ -616,7 +616,7 @@ B</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
-        <translation>Cliquez sur « Démarrer » et appuyez sur des touches, ou sur « Insérer » pour ajouter un événement</translation>
+        <translation>Cliquez sur «&#xa0;Démarrer&#xa0;» et appuyez sur des touches, ou sur «&#xa0;Insérer&#xa0;» pour ajouter un événement</translation>
     </message>
     <message>
         <source>请在左侧选择一个宏</source>
@@ -829,7 +829,7 @@ B</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation>Enfoncez doucement chaque touche à fond, l’une après l’autre, et maintenez-la au moins 1 seconde jusqu’à ce qu’elle devienne orange (touche calibrée). N’en oubliez aucune ; vous pouvez recommencer une touche. En sans-fil, le nombre de touches calibrées n’est pas indiqué. Ne débranchez pas le câble pendant la calibration.</translation>
+        <translation>Enfoncez doucement chaque touche à fond, l’une après l’autre, et maintenez-la au moins 1 seconde jusqu’à ce qu’elle devienne orange (touche calibrée). N’en oubliez aucune&#xa0;; vous pouvez recommencer une touche. En sans-fil, le nombre de touches calibrées n’est pas indiqué. Ne débranchez pas le câble pendant la calibration.</translation>
     </message>
     <message>
         <source>取消</source>
@@ -848,7 +848,7 @@ B</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
-        <translation>Enfoncez doucement chaque touche à fond, l’une après l’autre, et maintenez-la au moins 1 seconde jusqu’à ce qu’elle devienne orange (touche calibrée). N’en oubliez aucune ; vous pouvez recommencer une touche. En sans-fil, le nombre de touches calibrées n’est pas indiqué. Ne débranchez pas le câble pendant la calibration.</translation>
+        <translation>Enfoncez doucement chaque touche à fond, l’une après l’autre, et maintenez-la au moins 1 seconde jusqu’à ce qu’elle devienne orange (touche calibrée). N’en oubliez aucune&#xa0;; vous pouvez recommencer une touche. En sans-fil, le nombre de touches calibrées n’est pas indiqué. Ne débranchez pas le câble pendant la calibration.</translation>
     </message>
     <message>
         <source>取消</source>
@@ -921,7 +921,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>Mes appareils</translation>
+        <translation>Mes appareils </translation>
     </message>
     <message>
         <source>提示</source>
@@ -929,7 +929,7 @@ B</translation>
     </message>
     <message>
         <source>确定要退出 ORBE 驱动程序？</source>
-        <translation>Voulez-vous vraiment quitter le pilote ORBE ?</translation>
+        <translation>Voulez-vous vraiment quitter le pilote ORBE&#xa0;?</translation>
     </message>
     <message>
         <source>正在搜索设备</source>
@@ -1026,7 +1026,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>Aucune fonction</translation>
+        <translation>Non définie</translation>
     </message>
     <message>
         <source>已开启</source>
@@ -1080,7 +1080,7 @@ B</translation>
     </message>
     <message>
         <source>灯效：</source>
-        <translation>Effet :</translation>
+        <translation>Effet&#xa0;:</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -1108,7 +1108,7 @@ B</translation>
     </message>
     <message>
         <source>色彩：</source>
-        <translation>Couleur :</translation>
+        <translation>Couleur&#xa0;:</translation>
     </message>
     <message>
         <source>炫彩</source>
@@ -1116,11 +1116,11 @@ B</translation>
     </message>
     <message>
         <source>亮度：</source>
-        <translation>Luminosité :</translation>
+        <translation>Luminosité&#xa0;:</translation>
     </message>
     <message>
         <source>速度：</source>
-        <translation>Vitesse :</translation>
+        <translation>Vitesse&#xa0;:</translation>
     </message>
     <message>
         <source>颜色%1</source>
@@ -1150,7 +1150,7 @@ B</translation>
     </message>
     <message>
         <source>灯光播放模式:</source>
-        <translation>Mode de lecture :</translation>
+        <translation>Mode de lecture&#xa0;:</translation>
     </message>
     <message>
         <source>常亮</source>
@@ -1886,12 +1886,16 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>Relâchement (mm)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (mm)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
     <message>
         <source>选定上方键位，可通过选择单击及长按两种触发模式，设置两个功能（支持组合键）</source>
-        <translation>Sélectionnez une touche ci-dessus et donnez-lui deux fonctions : appui bref et appui long (combinaisons possibles)</translation>
+        <translation>Sélectionnez une touche ci-dessus et donnez-lui deux fonctions&#xa0;: appui bref et appui long (combinaisons possibles)</translation>
     </message>
     <message>
         <source>单击</source>
@@ -1903,7 +1907,7 @@ B</translation>
     </message>
     <message>
         <source>调整触发“按住&quot;键所需的时间</source>
-        <translation>Régler le délai de déclenchement du « maintien »</translation>
+        <translation>Régler le délai de déclenchement du «&#xa0;maintien&#xa0;»</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1914,7 +1918,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>Nouvelle macro</translation>
+        <translation>Nouvelle macro </translation>
     </message>
 </context>
 <context>
@@ -1935,7 +1939,7 @@ B</translation>
     <name>ModuleSnapTab</name>
     <message>
         <source>绑定2个选定按键(分别从上面选择)，当两个按键被同时按下时，以最后按下的按键为准</source>
-        <translation>Associe 2 touches (à choisir ci-dessus) : si les deux sont enfoncées, la dernière enfoncée l’emporte (SOCD)</translation>
+        <translation>Associe 2 touches (à choisir ci-dessus)&#xa0;: si les deux sont enfoncées, la dernière enfoncée l’emporte (SOCD)</translation>
     </message>
     <message>
         <source>选择A键</source>
@@ -1954,7 +1958,7 @@ B</translation>
     <name>ModuleTGLTab</name>
     <message>
         <source>选定上方键位，可通过选择连点及长按两种触发模式，设置两个功能</source>
-        <translation>Sélectionnez une touche ci-dessus et réglez sa fonction dans l’un des deux modes : répétition ou maintien</translation>
+        <translation>Sélectionnez une touche ci-dessus et réglez sa fonction dans l’un des deux modes&#xa0;: répétition ou maintien</translation>
     </message>
     <message>
         <source>连点</source>
@@ -1970,7 +1974,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>Aucune fonction</translation>
+        <translation>Non définie</translation>
     </message>
 </context>
 <context>
@@ -1981,7 +1985,53 @@ B</translation>
     </message>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
-        <translation>Guide Orbe 7090 : macros</translation>
+        <translation>Guide Orbe 7090&#xa0;: macros</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Augmenter</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuer</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
@@ -2084,7 +2134,7 @@ B</translation>
     <name>TravelPage</name>
     <message>
         <source>单独设置按下抬起触发行程：</source>
-        <translation>Régler activation et relâchement séparément :</translation>
+        <translation>Régler activation et relâchement séparément&#xa0;:</translation>
     </message>
     <message>
         <source>全程连续快速触发（RT）</source>
@@ -2093,8 +2143,8 @@ B</translation>
     <message>
         <source>启用时，快速触发在您完全松开按键时才会终止。
 禁用时，松开按键到轴体触发行程后终止快速触发</source>
-        <translation>Activé : le Rapid Trigger ne s’arrête qu’au relâchement complet.
-Désactivé : le Rapid Trigger s’arrête quand la touche repasse au-dessus du point d’activation</translation>
+        <translation>Activé&#xa0;: le Rapid Trigger ne s’arrête qu’au relâchement complet.
+Désactivé&#xa0;: le Rapid Trigger s’arrête quand la touche repasse au-dessus du point d’activation</translation>
     </message>
     <message>
         <source>单独设置按键再次按下触发和松开重置行程</source>

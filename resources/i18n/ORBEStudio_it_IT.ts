@@ -61,7 +61,7 @@ B</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation>Imposta</translation>
+        <translation>Applica</translation>
     </message>
     <message>
         <source>顶部死区</source>
@@ -283,7 +283,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>Macro</translation>
+        <translation>Macro </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -438,11 +438,11 @@ B</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation>Tasti avanzati</translation>
+        <translation>Avanzati</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Altre opzioni</translation>
+        <translation>Altro</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -921,7 +921,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>I miei dispositivi</translation>
+        <translation>I miei dispositivi </translation>
     </message>
     <message>
         <source>提示</source>
@@ -995,7 +995,7 @@ B</translation>
     <name>ModuleDKSAdjust</name>
     <message>
         <source>按下(mm)</source>
-        <translation>Pressione (mm)</translation>
+        <translation>Corsa (mm)</translation>
     </message>
     <message>
         <source>取消</source>
@@ -1026,7 +1026,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>Nessuna funzione</translation>
+        <translation>Non impostata</translation>
     </message>
     <message>
         <source>已开启</source>
@@ -1146,7 +1146,7 @@ B</translation>
     </message>
     <message>
         <source>关灯</source>
-        <translation>Spegni luci</translation>
+        <translation>Spegni</translation>
     </message>
     <message>
         <source>灯光播放模式:</source>
@@ -1886,6 +1886,10 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>Rilascio (mm)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (mm)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
@@ -1914,7 +1918,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>Nuova macro</translation>
+        <translation>Nuova macro </translation>
     </message>
 </context>
 <context>
@@ -1970,7 +1974,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>Nessuna funzione</translation>
+        <translation>Non impostata</translation>
     </message>
 </context>
 <context>
@@ -1982,6 +1986,52 @@ B</translation>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
         <translation>Guida Orbe 7090: macro</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>A&amp;umenta</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuisci</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
     </message>
 </context>
 <context>
@@ -2110,7 +2160,7 @@ Disattivo: il Rapid Trigger termina quando il tasto risale oltre il punto di att
     </message>
     <message>
         <source>设置</source>
-        <translation>Imposta</translation>
+        <translation>Applica</translation>
     </message>
 </context>
 <context>

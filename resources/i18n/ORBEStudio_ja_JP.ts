@@ -837,7 +837,7 @@ B</translation>
     </message>
     <message>
         <source>开始校准</source>
-        <translation>キャリブレーションを開始</translation>
+        <translation>開始</translation>
     </message>
 </context>
 <context>
@@ -856,7 +856,7 @@ B</translation>
     </message>
     <message>
         <source>完成校准</source>
-        <translation>キャリブレーションを完了</translation>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1886,10 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>リリース点 (mm)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (mm)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
@@ -1982,6 +1986,52 @@ B</translation>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
         <translation>Orbe 7090 操作ガイド：マクロ設定</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>すべて選択(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>増やす(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>減らす(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
     </message>
 </context>
 <context>

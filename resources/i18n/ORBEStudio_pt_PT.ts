@@ -283,7 +283,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>Macro</translation>
+        <translation>Macro </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -438,11 +438,11 @@ B</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation>Teclas avançadas</translation>
+        <translation>Avançadas</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Outras definições</translation>
+        <translation>Outras</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -600,7 +600,7 @@ B</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation>Definir atraso fixo (ms):</translation>
+        <translation>Atraso fixo (ms):</translation>
     </message>
     <message>
         <source>保存</source>
@@ -921,7 +921,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>Os meus dispositivos</translation>
+        <translation>Os meus dispositivos </translation>
     </message>
     <message>
         <source>提示</source>
@@ -1886,6 +1886,10 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>Libertação (mm)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (mm)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
@@ -1914,7 +1918,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>Nova macro</translation>
+        <translation>Nova macro </translation>
     </message>
 </context>
 <context>
@@ -1982,6 +1986,52 @@ B</translation>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
         <translation>Guia Orbe 7090: macros</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>A&amp;umentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuir</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Anular</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Co&amp;lar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
     </message>
 </context>
 <context>

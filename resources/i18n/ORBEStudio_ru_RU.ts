@@ -126,11 +126,11 @@ B</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
-        <translation>Гашение подсветки 2.4G</translation>
+        <translation>Выкл. света 2.4G</translation>
     </message>
     <message>
         <source>蓝牙关闭背光</source>
-        <translation>Гашение подсветки Bluetooth</translation>
+        <translation>Выкл. света Bluetooth</translation>
     </message>
     <message>
         <source>2.4G深度睡眠时间</source>
@@ -283,7 +283,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>Макрос</translation>
+        <translation>Макрос </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -438,7 +438,7 @@ B</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation>Особые клавиши</translation>
+        <translation>Особые</translation>
     </message>
     <message>
         <source>其他设置</source>
@@ -485,7 +485,7 @@ B</translation>
     <name>FrameLight</name>
     <message>
         <source>点击按键上色，拖动可给多个按键上色</source>
-        <translation>Щёлкните по клавише, чтобы закрасить её, или протяните рамку по нескольким</translation>
+        <translation>Щёлкните по клавише, чтобы закрасить её, или проведите по нескольким</translation>
     </message>
     <message>
         <source>我的作品</source>
@@ -600,7 +600,7 @@ B</translation>
     </message>
     <message>
         <source>设置固定延迟(ms):</source>
-        <translation>Одна задержка для всех (мс):</translation>
+        <translation>Задержка (мс):</translation>
     </message>
     <message>
         <source>保存</source>
@@ -921,7 +921,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>Мои устройства</translation>
+        <translation>Мои устройства </translation>
     </message>
     <message>
         <source>提示</source>
@@ -1026,7 +1026,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>Функция не задана</translation>
+        <translation>Не задано</translation>
     </message>
     <message>
         <source>已开启</source>
@@ -1886,6 +1886,10 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>Отпускание (мм)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (мм)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
@@ -1914,7 +1918,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>Новый макрос</translation>
+        <translation>Новый макрос </translation>
     </message>
 </context>
 <context>
@@ -1970,7 +1974,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>Функция не задана</translation>
+        <translation>Не задано</translation>
     </message>
 </context>
 <context>
@@ -1982,6 +1986,52 @@ B</translation>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
         <translation>Руководство Orbe 7090: макросы</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>В&amp;ыделить всё</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Увеличить</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>У&amp;меньшить</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Вырезать</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Вст&amp;авить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
     </message>
 </context>
 <context>

@@ -283,11 +283,11 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>มาโคร</translation>
+        <translation>มาโคร </translation>
     </message>
     <message>
         <source>未录制的宏</source>
-        <translation>ยังไม่ได้บันทึกมาโคร</translation>
+        <translation>ยังไม่ได้อัดมาโคร</translation>
     </message>
 </context>
 <context>
@@ -584,7 +584,7 @@ B</translation>
     </message>
     <message>
         <source>开始录制</source>
-        <translation>เริ่มบันทึก</translation>
+        <translation>เริ่มอัด</translation>
     </message>
     <message>
         <source>插入</source>
@@ -612,11 +612,11 @@ B</translation>
     </message>
     <message>
         <source>停止录制</source>
-        <translation>หยุดบันทึก</translation>
+        <translation>หยุดอัด</translation>
     </message>
     <message>
         <source>点击“开始录制”后按下按键，或点击“插入”添加事件</source>
-        <translation>คลิก “เริ่มบันทึก” แล้วกดปุ่ม หรือคลิก “แทรก” เพื่อเพิ่มเหตุการณ์</translation>
+        <translation>คลิก “เริ่มอัด” แล้วกดปุ่ม หรือคลิก “แทรก” เพื่อเพิ่มเหตุการณ์</translation>
     </message>
     <message>
         <source>请在左侧选择一个宏</source>
@@ -712,7 +712,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>สวิตช์แม่เหล็ก Starburst</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
@@ -921,7 +921,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>อุปกรณ์ของฉัน</translation>
+        <translation>อุปกรณ์ของฉัน </translation>
     </message>
     <message>
         <source>提示</source>
@@ -1026,7 +1026,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>ยังไม่ได้ตั้งฟังก์ชัน</translation>
+        <translation>ยังไม่ตั้งค่า</translation>
     </message>
     <message>
         <source>已开启</source>
@@ -1336,7 +1336,7 @@ B</translation>
     </message>
     <message>
         <source>播放/暂停</source>
-        <translation>เล่น/หยุดชั่วคราว</translation>
+        <translation>เล่น/หยุด</translation>
     </message>
     <message>
         <source>停止</source>
@@ -1396,11 +1396,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>ความสว่างจอ +</translation>
+        <translation>จอสว่าง +</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>ความสว่างจอ −</translation>
+        <translation>จอสว่าง −</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1886,6 +1886,10 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>จุดปล่อย (มม.)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (มม.)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
@@ -1914,7 +1918,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>มาโครใหม่</translation>
+        <translation>มาโครใหม่ </translation>
     </message>
 </context>
 <context>
@@ -1970,7 +1974,7 @@ B</translation>
     </message>
     <message>
         <source>未设置功能</source>
-        <translation>ยังไม่ได้ตั้งฟังก์ชัน</translation>
+        <translation>ยังไม่ตั้งค่า</translation>
     </message>
 </context>
 <context>
@@ -1982,6 +1986,52 @@ B</translation>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
         <translation>คู่มือ Orbe 7090: ตั้งค่ามาโคร</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>เลือก&amp;ทั้งหมด</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>เ&amp;พิ่ม</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;ลด</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>เ&amp;ลิกทำ</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;ทำซ้ำ</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;ตัด</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;คัดลอก</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;วาง</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>ลบ</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>เลือกทั้งหมด</translation>
     </message>
 </context>
 <context>
@@ -2050,7 +2100,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>สวิตช์แม่เหล็ก Starburst</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>磁玉</source>

@@ -283,7 +283,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>Makro</translation>
+        <translation>Makro </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -438,11 +438,11 @@ B</translation>
     </message>
     <message>
         <source>高级键</source>
-        <translation>Gelişmiş tuşlar</translation>
+        <translation>Gelişmiş</translation>
     </message>
     <message>
         <source>其他设置</source>
-        <translation>Diğer ayarlar</translation>
+        <translation>Diğer</translation>
     </message>
     <message>
         <source>Fn层设置</source>
@@ -921,7 +921,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>Aygıtlarım</translation>
+        <translation>Aygıtlarım </translation>
     </message>
     <message>
         <source>提示</source>
@@ -1886,6 +1886,10 @@ B</translation>
         <source>抬起(mm)</source>
         <translation>Bırakma (mm)</translation>
     </message>
+    <message>
+        <source>%1(mm)</source>
+        <translation>%1 (mm)</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMTTab</name>
@@ -1914,7 +1918,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>Yeni makro</translation>
+        <translation>Yeni makro </translation>
     </message>
 </context>
 <context>
@@ -1982,6 +1986,52 @@ B</translation>
     <message>
         <source>Orbe 7090 操作指南-宏设置</source>
         <translation>Orbe 7090 kılavuzu: makrolar</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Tümünü seç</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Artır</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>A&amp;zalt</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Geri al</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Yinele</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Kes</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opyala</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Yapıştır</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tümünü seç</translation>
     </message>
 </context>
 <context>

@@ -11,10 +11,22 @@
 
 namespace {
 
-/// The buttons of message boxes, for languages that Qt comes without; where Qt has its own text, that one
-/// shows.
-[[maybe_unused]] constexpr std::array QtTexts{QT_TRANSLATE_NOOP("QPlatformTheme", "&Yes"),
-                                              QT_TRANSLATE_NOOP("QPlatformTheme", "&No")};
+/// Qt's own texts that the program shows, for languages that Qt comes without: the buttons of message boxes
+/// and the menus of edit and spin boxes. Where Qt has its own text, that one shows.
+[[maybe_unused]] constexpr std::array QtTexts{
+    QT_TRANSLATE_NOOP("QPlatformTheme", "&Yes"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "&No"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Undo"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Redo"),
+    QT_TRANSLATE_NOOP("QLineEdit", "Cu&t"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Copy"),
+    QT_TRANSLATE_NOOP("QLineEdit", "&Paste"),
+    QT_TRANSLATE_NOOP("QLineEdit", "Delete"),
+    QT_TRANSLATE_NOOP("QLineEdit", "Select All"),
+    QT_TRANSLATE_NOOP("QAbstractSpinBox", "&Select All"),
+    QT_TRANSLATE_NOOP("QAbstractSpinBox", "&Step up"),
+    QT_TRANSLATE_NOOP("QAbstractSpinBox", "Step &down"),
+};
 
 const Language *languageAt(int index)
 {

@@ -85,8 +85,8 @@ float ModuleLinear::paneValue(bool left) const
 void ModuleLinear::setPaneTitles(const QString &left, const QString &right)
 {
     hasOwnTitles = true;
-    ui->labelTitleS1->setText(left + QStringLiteral("(mm)"));
-    ui->labelTitleS2->setText(right + QStringLiteral("(mm)"));
+    ui->labelTitleS1->setText(tr("%1(mm)").arg(left));
+    ui->labelTitleS2->setText(tr("%1(mm)").arg(right));
     showNames();
 }
 

@@ -2,15 +2,14 @@
 // the hue slider is dragged, each up to the finished picture and as a ratio to its budget.
 
 #include "ColorSquare.h"
+#include "Figure.h"
 
-#include <benchmark/benchmark.h>
-#include <chrono>
 #include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
 
 using namespace std::chrono_literals;
-using Seconds = std::chrono::duration<double>;
+using bench::Seconds;
 
 namespace {
 
@@ -32,7 +31,7 @@ void repaint(benchmark::State &state, qreal scale, Change change)
         square.render(&screen);
     }
     const Seconds each = (std::chrono::steady_clock::now() - start) / double(state.iterations());
-    state.counters["to_budget"] = each / Repaint;
+    bench::tell(state, each, Repaint);
 }
 
 void moved(benchmark::State &state, qreal scale)

@@ -1,19 +1,18 @@
 // What the on-screen keyboard costs with the keyboards of all pages alive: a refresh of what the keys do, and
 // a move of the rubber band, each up to the finished picture and as a ratio to its budget.
 
+#include "Figure.h"
 #include "KeyMatrix.h"
 #include "KeyNameTable.h"
 #include "ModuleGenKeymapping.h"
 #include "ModuleKeyboard.h"
 
 #include <array>
-#include <benchmark/benchmark.h>
-#include <chrono>
 #include <QApplication>
 #include <QMouseEvent>
 
 using namespace std::chrono_literals;
-using Seconds = std::chrono::duration<double>;
+using bench::Seconds;
 
 namespace {
 
@@ -64,7 +63,7 @@ void measure(benchmark::State &state, Seconds budget, Work work)
     for ([[maybe_unused]] const auto &iteration : state)
         work();
     const Seconds each = (std::chrono::steady_clock::now() - start) / double(state.iterations());
-    state.counters["to_budget"] = each / budget;
+    bench::tell(state, each, budget);
 }
 
 void refreshUnchanged(benchmark::State &state)

@@ -3,19 +3,18 @@
 // get.
 
 #include "DialogDeviceConnect.h"
+#include "Figure.h"
 #include "FrameLight.h"
 #include "KeyboardButton.h"
 #include "ModuleKeyboard.h"
 
-#include <benchmark/benchmark.h>
-#include <chrono>
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 
 using namespace std::chrono_literals;
-using Seconds = std::chrono::duration<double>;
+using bench::Seconds;
 
 namespace {
 
@@ -68,36 +67,40 @@ void restore(const QByteArray &content)
     file.write(content);
 }
 
-/// Takes the time of each iteration, and tells their mean as a ratio to the budget.
-void count(benchmark::State &state, Seconds spent, Seconds budget)
+/// Calls \a work for each iteration and takes the time that it says it took.
+template <typename Work>
+void measure(benchmark::State &state, Seconds budget, Work work)
 {
-    state.SetIterationTime(spent.count());
-    state.counters["to_budget"].value += spent / budget;
-    state.counters["to_budget"].flags = benchmark::Counter::kAvgIterations;
+    Seconds whole{};
+    for ([[maybe_unused]] const auto &iteration : state) {
+        const Seconds each = work();
+        state.SetIterationTime(each.count());
+        whole += each;
+    }
+    bench::tell(state, whole / double(state.iterations()), budget);
 }
 
 void saveHundredth(benchmark::State &state)
 {
     const QByteArray ninetyNine = fileOfWorks(Works - 1);
-    for ([[maybe_unused]] const auto &iteration : state) {
+    measure(state, SaveBudget, [&ninetyNine] {
         restore(ninetyNine);
         const FrameLight page;
         paint(page);
         const auto start = std::chrono::steady_clock::now();
         press(page, "pushButtonSave");
-        count(state, std::chrono::steady_clock::now() - start, SaveBudget);
-    }
-    state.counters["file_MB"] = double(QFile(worksFile()).size()) / 1e6;
+        return std::chrono::steady_clock::now() - start;
+    });
 }
 
 void startWithHundred(benchmark::State &state)
 {
     fileOfWorks(Works);
-    for ([[maybe_unused]] const auto &iteration : state) {
+    measure(state, StartBudget, [] {
         const auto start = std::chrono::steady_clock::now();
         const FrameLight page;
-        count(state, std::chrono::steady_clock::now() - start, StartBudget);
-    }
+        return std::chrono::steady_clock::now() - start;
+    });
 }
 
 } // namespace

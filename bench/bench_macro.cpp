@@ -1,14 +1,13 @@
 // What the macro page costs with a macro of 5,000 events, each step up to the finished picture and as a ratio
 // to its budget.
 
+#include "Figure.h"
 #include "FrameMacro.h"
 #include "MacroGrid.h"
 #include "MacroItem.h"
 #include "MacroSquare.h"
 #include "ModuleMacroManager.h"
 
-#include <benchmark/benchmark.h>
-#include <chrono>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -17,7 +16,7 @@
 #include <QTemporaryDir>
 
 using namespace std::chrono_literals;
-using Seconds = std::chrono::duration<double>;
+using bench::Seconds;
 
 namespace {
 
@@ -74,7 +73,7 @@ void measure(benchmark::State &state, Seconds budget, Prepare prepare, Work work
         state.SetIterationTime(each.count());
         whole += each;
     }
-    state.counters["to_budget"] = whole / double(state.iterations()) / budget;
+    bench::tell(state, whole / double(state.iterations()), budget);
 }
 
 constexpr auto Nothing = [] {};

@@ -1,10 +1,9 @@
 // What the whole program costs: time from process start to first paint, memory and processor time at idle,
 // each as a ratio to a bare Qt program. Every figure comes from a child process of its own, started by this
 // one.
-//
-//   bench_process [seconds of idling, 10 by default]
 
 #include "AppStart.h"
+#include "Figure.h"
 
 #include <algorithm>
 #include <array>
@@ -22,14 +21,24 @@
 #include <vector>
 
 using namespace std::chrono_literals;
+using bench::Seconds;
 
 namespace {
 
 constexpr int StartRuns = 7;
 constexpr auto Settling = 4s;
+constexpr auto Idling = 10s;
 constexpr double StartBudget = 3;
 constexpr double IdleBudget = 1.25;
 constexpr double MemoryBudget = 3;
+
+// What a child is: the program, and what it measures before it ends.
+constexpr QLatin1String Hub("hub");
+constexpr QLatin1String Bare("bare");
+constexpr QLatin1String Start("start");
+constexpr QLatin1String Idle("idle");
+constexpr QLatin1String Timers("timers"); ///< idle, with the hub's timers
+constexpr QLatin1String Memory("memory");
 
 /// Periods of the timers that the hub keeps running, and how long its enumeration thread sleeps between two
 /// looks.
@@ -74,35 +83,35 @@ protected:
 };
 
 /// Tells what a while of idling took, and ends the child there.
-void reportIdling(std::chrono::seconds idling)
+void reportIdling()
 {
-    QTimer::singleShot(Settling, qApp, [idling] {
+    QTimer::singleShot(Settling, qApp, [] {
         const double before = processorSeconds();
-        QTimer::singleShot(idling, qApp, [before] {
+        QTimer::singleShot(Idling, qApp, [before] {
             QTextStream(stdout) << processorSeconds() - before << ' ' << residentPages() << Qt::endl;
             std::_Exit(0);
         });
     });
 }
 
-void measure(const QString &what, std::chrono::seconds idling)
+void measure(const QString &what)
 {
-    if (what == QLatin1String("start"))
+    if (what == Start)
         qApp->installEventFilter(new FirstPaint);
     else
-        reportIdling(idling);
+        reportIdling();
 }
 
-int runBare(int argc, char **argv, const QString &what, std::chrono::seconds idling)
+int runBare(int argc, char **argv, const QString &what)
 {
     QApplication application(argc, argv);
-    measure(what, idling);
+    measure(what);
     QMainWindow window;
     window.setFixedSize(1280, 900);
     std::vector<std::unique_ptr<QTimer>> timers;
     std::atomic_bool stop = false;
     std::unique_ptr<QThread> thread;
-    if (what == QLatin1String("timers")) {
+    if (what == Timers) {
         for (const auto period : HubTimers) {
             timers.push_back(std::make_unique<QTimer>());
             timers.back()->start(period);
@@ -117,76 +126,83 @@ int runBare(int argc, char **argv, const QString &what, std::chrono::seconds idl
     return QApplication::exec();
 }
 
-int runHub(int argc, char **argv, const QString &what, std::chrono::seconds idling)
+int runHub(int argc, char **argv, const QString &what)
 {
     AppStart start(argc, argv);
-    measure(what, idling);
+    measure(what);
     return start.run();
 }
 
-QStringList child(const QString &program, const QString &what, const QString &idling)
+QStringList child(QLatin1String program, QLatin1String what)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(), {program, what, idling});
+    process.start(QCoreApplication::applicationFilePath(), {program, what});
     process.waitForFinished(-1);
     const QString answer = QString::fromLatin1(process.readAllStandardOutput()).simplified();
     if (answer.isEmpty())
-        qFatal("The %s program ended without a word", qPrintable(program));
+        qFatal("The %s program ended without a word", program.data());
     return answer.split(QLatin1Char(' '));
 }
 
-double startMilliseconds(const QString &program)
+double startMilliseconds(QLatin1String program)
 {
     std::array<double, StartRuns> runs{};
     for (double &run : runs) {
         const qint64 before = now();
-        run = double(child(program, QStringLiteral("start"), {}).value(0).toLongLong() - before) / 1e6;
+        run = double(child(program, Start).value(0).toLongLong() - before) / 1e6;
     }
     std::sort(runs.begin(), runs.end());
     return runs[StartRuns / 2];
 }
 
-void printRow(const char *name, double value, double floor, double budget, const char *unit)
+void startToPaint(benchmark::State &state)
 {
-    const double ratio = value / floor;
-    QTextStream(stdout) << QString::asprintf(
-        "%-28s %10.2f %-3s  floor %8.2f  ratio %5.2f  budget %5.2f  %s\n", name, value, unit, floor, ratio,
-        budget, ratio <= budget ? "kept" : "OVER");
+    for ([[maybe_unused]] const auto &iteration : state) {
+        const double hub = startMilliseconds(Hub);
+        bench::tell(state, hub, startMilliseconds(Bare), StartBudget, "ms");
+    }
 }
 
-int report(const QString &idling)
+/// Processor time and memory of the hub and of the floor of each.
+void idle(benchmark::State &state)
 {
-    const QString hub = QStringLiteral("hub");
-    const QString bare = QStringLiteral("bare");
-    const QString timers = QStringLiteral("timers");
-    printRow("process/start to paint", startMilliseconds(hub), startMilliseconds(bare), StartBudget, "ms");
-    const QStringList hubIdle = child(hub, QStringLiteral("idle"), idling);
-    const QStringList bareIdle = child(bare, timers, idling);
-    const QStringList bareMemory = child(bare, QStringLiteral("idle"), QStringLiteral("1"));
-    const double seconds = idling.toDouble();
+    for ([[maybe_unused]] const auto &iteration : state) {
+        const double hub = child(Hub, Idle).value(0).toDouble();
+        const double floor = child(Bare, Timers).value(0).toDouble();
+        const double percent = 100 / Seconds(Idling).count();
+        bench::tell(state, hub * percent, floor * percent, IdleBudget, "%");
+    }
+}
+
+void residentMemory(benchmark::State &state)
+{
     constexpr double PageMiB = 4096.0 / 1024 / 1024;
-    printRow("process/idle", hubIdle.value(0).toDouble() / seconds * 100,
-             bareIdle.value(0).toDouble() / seconds * 100, IdleBudget, "%");
-    printRow("process/resident memory", hubIdle.value(1).toDouble() * PageMiB,
-             bareMemory.value(1).toDouble() * PageMiB, MemoryBudget, "MiB");
-    return 0;
+    for ([[maybe_unused]] const auto &iteration : state) {
+        const double hub = child(Hub, Memory).value(1).toDouble();
+        bench::tell(state, hub * PageMiB, child(Bare, Memory).value(1).toDouble() * PageMiB, MemoryBudget,
+                    "MiB");
+    }
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const QString program = QString::fromLocal8Bit(argc > 2 ? argv[1] : "");
-    const QString what = QString::fromLocal8Bit(argc > 2 ? argv[2] : "");
-    const std::chrono::seconds idling(argc > 3 ? std::atoi(argv[3]) : 0);
-    if (program == QLatin1String("hub"))
-        return runHub(argc, argv, what, idling);
-    if (program == QLatin1String("bare"))
-        return runBare(argc, argv, what, idling);
+    const QString program = QString::fromLocal8Bit(argc == 3 ? argv[1] : "");
+    const QString what = QString::fromLocal8Bit(argc == 3 ? argv[2] : "");
+    if (program == Hub)
+        return runHub(argc, argv, what);
+    if (program == Bare)
+        return runBare(argc, argv, what);
     const QCoreApplication application(argc, argv);
     // A hub that runs on this desktop would count as the first instance.
     const QTemporaryDir runtime;
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
-    return report(QString::fromLatin1(argc > 1 ? argv[1] : "10"));
+    benchmark::RegisterBenchmark("process/start to first paint", startToPaint)->Iterations(1);
+    benchmark::RegisterBenchmark("process/processor time at idle", idle)->Iterations(1);
+    benchmark::RegisterBenchmark("process/resident memory at idle", residentMemory)->Iterations(1);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
 }

@@ -1,18 +1,19 @@
 // How long a keyboard takes to be read whole, as a ratio to the shortest time that the pacing allows.
 
 #include "DialogDeviceConnect.h"
+#include "Figure.h"
 #include "VirtualBus.h"
 
-#include <benchmark/benchmark.h>
 #include <QApplication>
 #include <QEventLoop>
 
 using namespace std::chrono_literals;
-using Seconds = std::chrono::duration<double>;
+using bench::Seconds;
 
 namespace {
 
 constexpr int Frames = 99;
+constexpr double Most = 1.03;
 constexpr auto WiredPace = 30ms;
 constexpr auto WirelessPace = 110ms;
 constexpr auto AfterTheLast = 50ms; ///< from the end of the sequence to its signal
@@ -37,16 +38,16 @@ void readKeyboard(benchmark::State &state, const char *model, bool wireless, std
                                QString::fromStdString(path));
     waitForReadDone(connection);
 
-    double total = 0;
+    Seconds total{};
     for ([[maybe_unused]] const auto &iteration : state) {
         keyboard->clearLog();
         connection.DoReadAll();
         waitForReadDone(connection);
         const Seconds taken = sim::Clock::now() - keyboard->frames().front().when - AfterTheLast;
         state.SetIterationTime(taken.count());
-        total += taken.count();
+        total += taken;
     }
-    state.counters["to_floor"] = total / double(state.iterations()) / Seconds(Frames * pace).count();
+    bench::tell(state, total / double(state.iterations()), Frames * pace, Most);
     bus.reset();
 }
 

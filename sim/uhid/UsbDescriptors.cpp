@@ -2,6 +2,9 @@
 
 #include "ReportDescriptor.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace uhid::usb {
 namespace {
 
@@ -38,7 +41,7 @@ constexpr Byte high(std::size_t value)
 
 void append(Bytes &descriptor, const Bytes &part)
 {
-    descriptor.insert(descriptor.end(), part.begin(), part.end());
+    std::ranges::copy(part, std::back_inserter(descriptor));
 }
 
 Bytes interfaceDescriptors(Byte number, const sim::ChannelInfo &channel)

@@ -79,6 +79,7 @@ void CommandPump::setLink(const HidHandle *handle, bool wireless)
     beginRun();
     link = handle;
     isWireless = wireless;
+    progress.end(WorkProgress::End::Dropped);
 }
 
 bool CommandPump::isConnected() const
@@ -95,6 +96,7 @@ void CommandPump::enqueue(const QByteArray &command, Kick kick)
         return;
     }
     sendQueue.append(command);
+    progress.queued(quint8(command.at(0)), sendQueue.size());
     if (groupDepth > 0)
         groupQueued = true;
     else if (kick == Kick::Immediate)
@@ -103,9 +105,15 @@ void CommandPump::enqueue(const QByteArray &command, Kick kick)
         sendTimer.start(DeferredKickDelay);
 }
 
-void CommandPump::restart()
+void CommandPump::clearQueue()
 {
     sendQueue.clear();
+    progress.end(WorkProgress::End::Dropped);
+}
+
+void CommandPump::restart()
+{
+    clearQueue();
     beginRun();
 }
 
@@ -159,6 +167,7 @@ void CommandPump::pumpStep()
     if (!isConnected())
         return;
     if (sendQueue.isEmpty()) {
+        progress.end(WorkProgress::End::Complete);
         Q_EMIT drained();
         return;
     }
@@ -176,6 +185,7 @@ void CommandPump::pumpStep()
     }
     // Not before the frame is out: a write that takes its time must not shorten the gap to the next one.
     armRead(isWireless ? WirelessReplyDelay : WiredReplyDelay);
+    progress.sent(sendQueue.size());
 }
 
 bool CommandPump::mayUseAir()
@@ -231,6 +241,8 @@ void CommandPump::readStep()
     const QByteArray reply = takeReply();
     if (reply.isNull()) {
         qCDebug(lcDevice) << "No answer;" << sendQueue.size() << "commands wait";
+        if (!isStepArmed())
+            progress.end(WorkProgress::End::Unanswered);
         return;
     }
     const quint64 forRun = runNumber;

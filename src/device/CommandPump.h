@@ -1,5 +1,7 @@
 #pragma once
 
+#include "WorkProgress.h"
+
 #include <chrono>
 #include <mutex>
 #include <QByteArray>
@@ -37,7 +39,7 @@ public:
     /// Queues a bare command and kicks the pump. Dropped without a word while there is no link; an empty
     /// command is dropped too.
     void enqueue(const QByteArray &command, Kick kick);
-    void clearQueue() { sendQueue.clear(); }
+    void clearQueue();
     /// Drops what waits, and starts afresh with one step at a time: answers still to come are taken off the
     /// link but not handed on, and nothing follows them. A sequence whose answers are filed by order needs
     /// this.
@@ -49,6 +51,7 @@ public:
     void endGroup();
 
     qsizetype queueLength() const { return sendQueue.size(); }
+    const WorkProgress &workProgress() const { return progress; }
 
     /// The last frame sent, with its checksum, before the transport's wrapping; empty before the first.
     const QByteArray &lastFrame() const { return lastCommand; }
@@ -76,6 +79,7 @@ private:
 
     QList<QByteArray> sendQueue;
     QByteArray lastCommand;
+    WorkProgress progress;
     QTimer sendTimer;
     const HidHandle *link = nullptr;
     bool isWireless = false;

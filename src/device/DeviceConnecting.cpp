@@ -82,6 +82,7 @@ void DialogDeviceConnect::connectStep()
 void DialogDeviceConnect::closeHandles()
 {
     pump.setLink(nullptr, isWireless);
+    failure = OpenFailure::None;
     inputHandle.close();
     commandHandle.close();
     musicHandle.close();
@@ -93,6 +94,13 @@ void DialogDeviceConnect::connectWireless()
 {
     commandHandle = HidHandle::open(devicePath.toUtf8());
     commandHandle.setNonblocking(false);
+    if (!commandHandle) {
+        const Enumeration found = enumerate(usbId(ui->lineEditVID->text()), usbId(ui->lineEditPID->text()));
+        for (const hid_device_info *entry = found.get(); entry; entry = entry->next) {
+            if (entry->path && devicePath == QString::fromUtf8(entry->path))
+                noteFailure(entry->path);
+        }
+    }
     pump.setLink(&commandHandle, true);
     Q_EMIT onConnect();
     beginIdentification();
@@ -129,13 +137,22 @@ void DialogDeviceConnect::openInterfaces(quint16 vid, quint16 pid)
             inputHandle.setNonblocking(true);
             if (inputHandle)
                 ui->labelFlag0->setPixmap(good);
+            else
+                noteFailure(entry->path);
         } else if (entry->usage == CommandUsage) {
             commandHandle = HidHandle::open(entry->path);
             musicHandle = HidHandle::open(entry->path);
             if (commandHandle)
                 ui->labelFlag1->setPixmap(good);
+            else
+                noteFailure(entry->path);
         }
     }
+}
+
+void DialogDeviceConnect::noteFailure(const char *path)
+{
+    failure = HidHandle::lastFailure(path);
 }
 
 void DialogDeviceConnect::beginIdentification()

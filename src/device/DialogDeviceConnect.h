@@ -168,12 +168,17 @@ public:
     bool isMusicOn() const { return musicOn; }
 
     bool isConnected() const { return bool(commandHandle); }
+    /// Why the last connect step left no connection, if the keyboard is on the bus; None if it is not, or if
+    /// there is a connection.
+    OpenFailure openFailure() const { return failure; }
     bool isReadingAll() const { return readingAll; }
     /// Whether the calibration's sensor pages are being asked for. Another question to the keyboard could put
     /// its answer among them.
     bool isCalibrating() const { return calibrationTimer && calibrationTimer->isActive(); }
 
     const DeviceCache &deviceCache() const { return cache; }
+    /// How far the keyboard is with what was asked of it.
+    const WorkProgress &workProgress() const { return pump.workProgress(); }
     CommandRows *commandRows() const { return rows; }
 
 public Q_SLOTS:
@@ -204,6 +209,7 @@ private:
     void connectWireless();
     void connectWired(const QString &vidText, const QString &pidText);
     void openInterfaces(quint16 vid, quint16 pid);
+    void noteFailure(const char *path);
     void beginIdentification();
     void rememberIds();
     void refreshStep();
@@ -254,6 +260,7 @@ private:
     bool isWireless = false;
     quint16 vendorId = 0; ///< as given to DoConnectDevice, like the path
     quint16 productId = 0;
+    OpenFailure failure = OpenFailure::None;
     bool calibrating = false;
     bool readingAll = false;
     bool musicOn = false;

@@ -6,8 +6,8 @@
 #include <chrono>
 #include <hidapi/hidapi.h>
 #include <mutex>
+#include <QHash>
 #include <QMutex>
-#include <QSet>
 #include <QString>
 
 using namespace std::chrono_literals;
@@ -24,13 +24,16 @@ public:
     {
         const bool refused = cause.contains(QLatin1String("permission denied"), Qt::CaseInsensitive) ||
                              cause.contains(QLatin1String("EACCES"));
-        // Its turn to be given to the user may still come, and the news of it leads to another search.
-        if (refused && platform::devicesAreBeingSetUp())
-            return;
+        const OpenFailure kind = refused ? OpenFailure::Denied : OpenFailure::Other;
         const QMutexLocker lock(&mutex);
-        if (reported.contains(path))
+        // Its turn to be given to the user may still come, and the news of it leads to another search.
+        if (refused && platform::devicesAreBeingSetUp()) {
+            reported.remove(path);
             return;
-        reported.insert(path);
+        }
+        if (reported.value(path, OpenFailure::None) == kind)
+            return;
+        reported.insert(path, kind);
         qCWarning(lcDevice).noquote() << "Can't open" << path << "-" << cause << remedy(refused);
     }
 
@@ -38,6 +41,12 @@ public:
     {
         const QMutexLocker lock(&mutex);
         reported.remove(path);
+    }
+
+    OpenFailure last(const QByteArray &path)
+    {
+        const QMutexLocker lock(&mutex);
+        return reported.value(path, OpenFailure::None);
     }
 
 private:
@@ -53,7 +62,7 @@ private:
     }
 
     QMutex mutex;
-    QSet<QByteArray> reported;
+    QHash<QByteArray, OpenFailure> reported;
 };
 
 OpenFailures &openFailures()
@@ -90,6 +99,11 @@ HidHandle HidHandle::open(const QByteArray &path)
     else
         openFailures().report(path, QString::fromWCharArray(hid_error(nullptr)));
     return handle;
+}
+
+OpenFailure HidHandle::lastFailure(const QByteArray &path)
+{
+    return openFailures().last(path);
 }
 
 void HidHandle::setNonblocking(bool nonblocking)

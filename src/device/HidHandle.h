@@ -17,6 +17,13 @@ QMutex &hidLibraryMutex();
 /// the answer was taken, so that none is taken for another's. The GUI thread only tries for it.
 QMutex &airMutex();
 
+/// Why a path could not be opened.
+enum class OpenFailure {
+    None,
+    Denied, ///< this user has no right to it
+    Other,
+};
+
 /// One open HID device, closed with the object. An object without a device is valid: all it does is answer
 /// "no". Use one object from one thread at a time.
 class HidHandle
@@ -28,6 +35,8 @@ public:
     /// enumeration. If that fails the result is empty, and the log names the cause, once for each path until
     /// it can be opened again. Any thread.
     static HidHandle open(const QByteArray &path);
+    /// What became of the last open() of that path; None also if it was never tried. Any thread.
+    static OpenFailure lastFailure(const QByteArray &path);
 
     explicit operator bool() const { return device != nullptr; }
     hid_device *get() const { return device.get(); }

@@ -1,0 +1,42 @@
+#include "WorkProgress.h"
+
+namespace {
+
+/// Commands that ask have this bit, commands that set don't.
+constexpr quint8 AskBit = 0x80;
+
+} // namespace
+
+WorkProgress::WorkProgress(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void WorkProgress::queued(quint8 command, qsizetype queueLength)
+{
+    waiting = int(queueLength);
+    if (running && waiting > 1) {
+        ++all;
+        return;
+    }
+    // What an earlier work left in the queue counts as part of this one.
+    kind = command & AskBit ? Work::Reading : Work::Writing;
+    all = waiting;
+    running = true;
+    Q_EMIT begun();
+}
+
+void WorkProgress::sent(qsizetype queueLength)
+{
+    waiting = int(queueLength);
+    if (running)
+        Q_EMIT advanced();
+}
+
+void WorkProgress::end(End how)
+{
+    if (!running)
+        return;
+    running = false;
+    Q_EMIT ended(how);
+}

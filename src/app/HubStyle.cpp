@@ -4,17 +4,7 @@ namespace hubstyle {
 
 const QString Window = QStringLiteral(
     "QMainWindow{ background-color: rgba(255, 255, 255, 1); border: 1px "
-    "solid skyblue; border-radius: 20px; }"
-    // The questions that the window and its pages ask.
-    "QMessageBox { background-color: white; }"
-    "QMessageBox QLabel { color: #222222; font-size: 14px; }"
-    "QMessageBox QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }"
-    "QMessageBox QPushButton { min-width: 84px; min-height: 30px; border: 2px solid transparent;"
-    " border-radius: 17px; background-color: #EDEDF0; color: #222222; font-size: 14px; }"
-    "QMessageBox QPushButton:hover { background-color: #E1E1E6; }"
-    "QMessageBox QPushButton:pressed { background-color: #D5D5DB; }"
-    "QMessageBox QPushButton:default { background-color: #6329B6; color: white; }"
-    "QMessageBox QPushButton:focus { border-color: #B59BDD; }");
+    "solid skyblue; border-radius: 20px; }");
 
 const QString Header = QStringLiteral(
     "QPushButton { border: 2px solid transparent; border-radius: 18px; background-color: #F6F6F6; color: "

@@ -7,6 +7,7 @@
 #include "KeyState.h"
 #include "Look.h"
 #include "MainWindow.h"
+#include "MessageBox.h"
 #include "ModuleLangMenu.h"
 #include "Session.h"
 #include "SiblingHost.h"
@@ -18,7 +19,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScrollBar>
@@ -247,8 +247,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     langMenu->hide();
     closing = true;
-    const auto answer = QMessageBox::question(this, tr("提示"), tr("确定要退出 ORBE 驱动程序？"),
-                                              QMessageBox::Yes | QMessageBox::No);
+    const auto answer = MessageBox::question(this, tr("提示"), tr("确定要退出 ORBE 驱动程序？"));
     if (answer != QMessageBox::Yes) {
         closing = false;
         event->ignore();

@@ -4,12 +4,12 @@
 #include "FrameLight.h"
 #include "LightWorksModel.h"
 #include "Look.h"
+#include "MessageBox.h"
 #include "PictureDelegate.h"
 #include "PreviewPng.h"
 #include "ui_FrameLight.h"
 
 #include <QHeaderView>
-#include <QMessageBox>
 
 namespace {
 
@@ -145,8 +145,8 @@ void FrameLight::chooseWork(const QModelIndex &index)
 void FrameLight::deleteWork(int row)
 {
     const QPointer<FrameLight> self(this);
-    const auto answer = QMessageBox::question(this, tr("提示"), tr("确认要删除此作品吗？"),
-                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    const auto answer = MessageBox::question(this, tr("提示"), tr("确认要删除此作品吗？"),
+                                             QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
     if (!self || answer != QMessageBox::Yes)
         return;
     works->remove(row);

@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "AbsentCards.h"
 #include "DeviceList.h"
 #include "DialogDeviceConnect.h"
 #include "FloatButton.h"
@@ -125,6 +126,7 @@ void MainWindow::buildShell()
     cardLayout = ui->layoutDevices;
     cardLayout->setSpacing(CardSpacing);
     cardLayout->setAlignment(Qt::AlignLeft);
+    absentCards = std::make_unique<AbsentCards>(cardLayout, ui->scrollAreaWidgetContents);
     ui->stackedWidget->setCurrentIndex(SiblingHost::CardPage);
     connect(ui->frameHold, &FrameDeviceHolder::onReturn, this,
             [this] { ui->stackedWidget->setCurrentIndex(SiblingHost::CardPage); });
@@ -327,6 +329,7 @@ void MainWindow::refreshCards()
             connect(card, &FrameDeviceShow::onClicked, siblings, &SiblingHost::openDevice);
         }
     }
+    absentCards->refresh(*devices);
     updateCounts();
 }
 

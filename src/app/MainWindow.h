@@ -11,6 +11,7 @@
 #include <QTimer>
 
 struct DeviceEnumInfo;
+class AbsentCards;
 class DeviceList;
 class FloatButton;
 class HubTray;
@@ -112,6 +113,7 @@ private:
     FloatButton *floatNext = nullptr;
     FloatButton *floatReturn = nullptr;
     QHBoxLayout *cardLayout = nullptr;
+    std::unique_ptr<AbsentCards> absentCards;
     QPixmap splash;
     QPixmap logo;
     QTimer arrowHideTimer;

@@ -98,8 +98,10 @@ private:
         pendingDevicePath = entry.path;
         pass.see(entry.path);
         hid_device *device = pass.kept.open(entry.path);
-        if (!device)
+        if (!device) {
+            pass.missOpen(entry, entry.path, BluetoothConnection);
             return;
+        }
         if (const quint32 id = askOverBluetooth(device, pass.stop))
             pass.addDevice(entry, id, NoVendorPath, entry.path, BluetoothConnection, CloudFamily);
     }
@@ -110,8 +112,10 @@ private:
             return;
         pass.see(pendingDevicePath);
         HidHandle handle = HidHandle::open(pendingDevicePath.toUtf8());
-        if (!handle)
+        if (!handle) {
+            pass.missOpen(entry, pendingDevicePath, UsbConnection);
             return;
+        }
         const ProbedIdentity identity =
             WiredProbe(std::move(handle), pendingDevicePath, entry, pass.stop).run();
         pass.addDevice(entry, identity.id, pendingVendorPath, pendingDevicePath, identity.connection,

@@ -53,6 +53,7 @@ void DeviceList::clear()
     std::move(records.begin(), records.end(), std::back_inserter(retired));
     records.clear();
     listed.clear();
+    unopenedDevices.clear();
 }
 
 void DeviceList::addDevice(const DeviceSighting &sighting)
@@ -101,6 +102,8 @@ void DeviceList::applyPass(const ScanResult &pass)
     for (const DeviceSighting &sighting : pass.sightings)
         addDevice(sighting);
     age(pass);
+    seenPaths = pass.seenPaths;
+    unopenedDevices = pass.unopened;
     Q_EMIT oEnumDeiceDone();
 }
 

@@ -25,6 +25,10 @@ public:
     /// changes.
     const QList<DeviceEnumInfo *> &devices() const { return listed; }
     int onlineCount() const;
+    /// Whether the pass that ended last met a device on that path.
+    bool isOnBus(const QString &devicePath) const { return seenPaths.contains(devicePath); }
+    /// What the pass that ended last couldn't open.
+    const std::vector<UnopenedDevice> &unopened() const { return unopenedDevices; }
 
     /// The record that the open page shows, or null. Its loss is told by currentDeviceLost().
     void setCurrentDevice(const DeviceEnumInfo *device) { current = device; }
@@ -60,4 +64,6 @@ private:
     std::vector<Record> retired; ///< cleared from the list, but perhaps held by a card or a page
     QList<DeviceEnumInfo *> listed;
     const DeviceEnumInfo *current = nullptr;
+    QSet<QString> seenPaths;
+    std::vector<UnopenedDevice> unopenedDevices;
 };

@@ -14,9 +14,12 @@
 #include "Look.h"
 #include "ModuleGeneralMasker.h"
 #include "ModuleLinear.h"
+#include "NoticeBar.h"
+#include "ShellNotices.h"
 #include "ShellStyle.h"
 #include "SuperLabel.h"
 #include "ui_FrameDeviceHolder.h"
+#include "WorkMeter.h"
 
 #include <array>
 #include <QApplication>
@@ -91,6 +94,8 @@ FrameDeviceHolder::FrameDeviceHolder(QWidget *parent)
     buildToolbar();
     connectToolbar();
     connectConnection();
+    new WorkMeter(DialogDeviceConnect::instance()->workProgress(), ui->progressWork);
+    notices = new ShellNotices(*DialogDeviceConnect::instance(), new NoticeBar(ui->FrameHoder));
     labels.at(HomePage)->setSelected(true);
     ui->horizontalFrame->hide();
     QTimer::singleShot(FirstPageDelay, this, &FrameDeviceHolder::buildNextPage);
@@ -264,10 +269,11 @@ void FrameDeviceHolder::openPairing()
 
 void FrameDeviceHolder::showName()
 {
-    // The profiles and the charge keep their room while they are hidden: the name doesn't jump.
+    // The profiles, the charge and the progress keep their room while they are hidden: the name doesn't jump.
     const int gap = ui->layoutToolbar->spacing();
     const QMargins margins = ui->layoutToolbar->contentsMargins();
-    int room = ui->FrameToolbar->minimumWidth() - margins.left() - margins.right() - gap;
+    int room = ui->FrameToolbar->minimumWidth() - margins.left() - margins.right() - 2 * gap -
+               ui->progressWork->minimumSizeHint().width();
     for (const QWidget *widget : std::initializer_list<QWidget *>{
              ui->labelConn, ui->labelBatt, ui->horizontalFrame, ui->pushButtonReset, ui->pushButtonFixline}) {
         widget->ensurePolished();
@@ -312,6 +318,7 @@ void FrameDeviceHolder::changeEvent(QEvent *event)
         ui->retranslateUi(this);
         showTips();
         showName();
+        notices->retranslate();
     }
     QFrame::changeEvent(event);
 }

@@ -7,6 +7,7 @@
 struct DeviceEnumInfo;
 class FrameKeySetting;
 class FrameMain;
+class ShellNotices;
 class SuperLabel;
 namespace Ui {
 class FrameDeviceHolder;
@@ -63,8 +64,9 @@ private:
     std::unique_ptr<Ui::FrameDeviceHolder> ui;
     DeviceEnumInfo *currentDevice = nullptr;
     QList<SuperLabel *> labels; ///< by index, as the pages
-    QList<QWidget *> pages; ///< those built so far
+    QList<QWidget *> pages;     ///< those built so far
     QString deviceName;
+    ShellNotices *notices = nullptr;
     FrameMain *home = nullptr;
     FrameKeySetting *keySettings = nullptr;
 };

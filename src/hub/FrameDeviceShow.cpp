@@ -2,13 +2,12 @@
 
 #include "DeviceBattery.h"
 #include "DeviceNameText.h"
+#include "DevicePicture.h"
 #include "Look.h"
 #include "ui_FrameDeviceShow.h"
 
 #include <array>
 #include <chrono>
-#include <QCoreApplication>
-#include <QDir>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
@@ -24,19 +23,9 @@ constexpr auto FirstReportDelay = 2000ms;
 constexpr auto ReportPeriod = 10000ms;
 constexpr auto OpenDelay = 50ms;
 
-constexpr int KeyboardWidth = 970;
-constexpr int SmallDeviceWidth = 280;
-constexpr int ReceiverType = 2; ///< a device type of custom lists, shown like a mouse
-constexpr int PictureMargin = 40;
-constexpr int PictureHeight = 210;
-constexpr int CardMargin = 80;
-constexpr int SmallestCard = 290;
-
 constexpr int BatteryStep = 20; ///< percent for each of the battery pictures
 constexpr std::array BatteryImages{"batt-low.png", "batt-25.png", "batt-50.png", "batt-75.png",
                                    "batt-full.png"};
-constexpr std::array ConnectionImages{"usb.png", "2.4g.png", "ble.png"};
-
 const QString NormalStyle = QStringLiteral(
     "#FrameDeviceShow{background-color:#F4F4F4; border-radius:32px; border: 1px solid transparent;}");
 const QString HoverStyle = QStringLiteral(
@@ -66,37 +55,6 @@ QString batteryImage(int percent)
     return resource(BatteryImages[size_t(qBound(0, step, int(BatteryImages.size()) - 1))]);
 }
 
-QString imageFolder()
-{
-    return QCoreApplication::applicationDirPath() + QLatin1String("/images/");
-}
-
-/// The picture of a device, empty if there is none. The name comes from a file that anyone may edit, so it is
-/// only compared with what the folder holds and never becomes a part of a path.
-QString imageOf(const QString &deviceName)
-{
-    const QStringList present = QDir(imageFolder()).entryList(QDir::Files);
-    const QString file = deviceName + QLatin1String(".png");
-    const QString dashed = QString(file).replace(QLatin1Char(' '), QLatin1Char('-'));
-    for (const QString &wanted : {file, dashed}) {
-        if (present.contains(wanted))
-            return imageFolder() + wanted;
-    }
-    return {};
-}
-
-QSize fitted(const QSize &picture, int available)
-{
-    const double ratio = double(picture.width()) / picture.height();
-    if (ratio > 1) {
-        const int height = int(available / ratio);
-        return height > PictureHeight ? QSize(int(ratio * PictureHeight), PictureHeight)
-                                      : QSize(available, height);
-    }
-    const int width = int(ratio * PictureHeight);
-    return width > available ? QSize(available, int(available / ratio)) : QSize(width, PictureHeight);
-}
-
 } // namespace
 
 FrameDeviceShow::FrameDeviceShow(QWidget *parent)
@@ -105,6 +63,7 @@ FrameDeviceShow::FrameDeviceShow(QWidget *parent)
 {
     ui->setupUi(this);
     look::setStyleOnce(this, NormalStyle);
+    ui->labelState->hide();
     auto *timer = new QTimer(this);
     timer->setTimerType(Qt::PreciseTimer);
     connect(timer, &QTimer::timeout, this, &FrameDeviceShow::report);
@@ -147,10 +106,10 @@ void FrameDeviceShow::setDevice(DeviceEnumInfo *shown)
         ui->labelPower->setToolTip({});
     }
     device = shown;
-    setImage(imageOf(device->displayName), device->deviceType);
+    showTrouble();
+    setImage(devicepicture::ofName(device->displayName), device->deviceType);
     ui->labelPower->setHidden(device->connectionType == UsbConnection);
-    const size_t connection = device->connectionType;
-    connectionImage = resource(ConnectionImages[connection < ConnectionImages.size() ? connection : 0]);
+    connectionImage = devicepicture::ofConnection(device->connectionType);
     ui->labelType->setPixmap(look::picture(connectionImage, this));
     showName();
     QTimer::singleShot(FirstReportDelay, this, &FrameDeviceShow::report);
@@ -158,24 +117,19 @@ void FrameDeviceShow::setDevice(DeviceEnumInfo *shown)
 
 void FrameDeviceShow::setImage(const QString &path, int deviceType)
 {
-    if (deviceType == KeyboardType)
-        setFixedWidth(KeyboardWidth);
-    else if (deviceType == MouseType || deviceType == ReceiverType)
-        setFixedWidth(SmallDeviceWidth);
+    deviceImage = devicepicture::show(this, ui->labelImage, path, deviceType, trouble != DeviceTrouble::None);
+}
 
-    deviceImage = path;
-    QPixmap picture(path);
-    if (picture.isNull()) {
-        deviceImage = imageFolder() + QStringLiteral("default%1.png").arg(deviceType);
-        picture.load(deviceImage);
-    }
-    if (!picture.isNull()) {
-        const QSize size = fitted(picture.size(), width() - PictureMargin);
-        ui->labelImage->setFixedSize(size);
-        setFixedWidth(qMax(size.width() + CardMargin, SmallestCard));
-    }
-    ui->labelImage->setScaledContents(true);
-    ui->labelImage->setPixmap(picture);
+/// A device that is still online, but was not opened by the last pass, says so.
+void FrameDeviceShow::showTrouble()
+{
+    trouble = devicetrouble::ofPath(device->devicePath);
+    const QString badge = devicetrouble::badge(trouble);
+    ui->labelState->setText(badge);
+    ui->labelState->setHidden(badge.isEmpty());
+    setToolTip(devicetrouble::advice(trouble));
+    setAccessibleDescription(badge.isEmpty() ? ui->labelPower->toolTip()
+                                             : badge + QLatin1Char('\n') + toolTip());
 }
 
 void FrameDeviceShow::report()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DeviceEnumInfo.h"
+#include "DeviceTrouble.h"
 
 #include <memory>
 #include <QFrame>
@@ -31,8 +31,7 @@ public:
     /// Where the wheel scrolls sideways; may be null.
     void setScrollArea(QScrollArea *area);
     /// Shows a device and asks for its charge two seconds later. The record must outlive the card's use of
-    /// it; null is ignored. Nothing outside the images folder beside the program is opened, whatever the name
-    /// is.
+    /// it; null is ignored. A device that couldn't be opened is shown gray, with the reason.
     void setDevice(DeviceEnumInfo *device);
     /// Shows a picture, or the default one of the device type if it can't be read, and takes its width from
     /// it.
@@ -58,6 +57,7 @@ protected:
 private:
     explicit FrameDeviceShow(QWidget *parent);
     void showName();
+    void showTrouble();
     void select();
     void openSoon();
     void scrollSideways(int distance);
@@ -65,6 +65,7 @@ private:
 
     DeviceEnumInfo *device = nullptr;
     QPointer<QScrollArea> scrollArea;
+    DeviceTrouble trouble = DeviceTrouble::None;
     bool connected = false;
     QString deviceImage;
     QString connectionImage;

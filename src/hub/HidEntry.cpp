@@ -14,7 +14,8 @@ std::vector<HidEntry> listHid(quint16 vendorId, quint16 productId)
     std::vector<HidEntry> entries;
     for (const hid_device_info *info = list.get(); info; info = info->next) {
         entries.push_back({QString::fromUtf8(info->path), info->vendor_id, info->product_id, info->usage_page,
-                           info->usage});
+                           info->usage,
+                           info->product_string ? QString::fromWCharArray(info->product_string) : QString()});
     }
     return entries;
 }

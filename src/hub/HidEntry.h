@@ -12,6 +12,7 @@ struct HidEntry
     quint16 productId;
     quint16 usagePage;
     quint16 usage;
+    QString product; ///< as the device calls itself; may be empty
 
     bool hasUsage(quint16 page, quint16 number) const { return usagePage == page && usage == number; }
 };

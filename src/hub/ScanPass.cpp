@@ -2,6 +2,7 @@
 
 #include "OrbeDeviceBase.h"
 
+#include <algorithm>
 #include <array>
 #include <QDateTime>
 
@@ -34,6 +35,15 @@ ScanResult ScanPass::takeResult()
 {
     result.finishedAt = QDateTime::currentSecsSinceEpoch();
     return std::move(result);
+}
+
+void ScanPass::missOpen(const HidEntry &entry, const QString &path, quint8 connection)
+{
+    const bool noted =
+        std::any_of(result.unopened.begin(), result.unopened.end(),
+                    [&path](const UnopenedDevice &device) { return device.devicePath == path; });
+    if (!noted)
+        result.unopened.push_back({entry.product, connection, path});
 }
 
 void ScanPass::addDevice(const HidEntry &entry, quint64 id, const QString &vendorPath,

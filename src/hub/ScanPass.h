@@ -24,6 +24,8 @@ public:
 
     /// Notes that something with that path is on the bus.
     void see(const QString &path) { result.seenPaths.insert(path); }
+    /// Notes that the device at that path, of which \a entry is an interface, couldn't be opened.
+    void missOpen(const HidEntry &entry, const QString &path, quint8 connection);
     /// Takes a device with the id that its probe got. Families 1 to 3 get their final id and connection from
     /// the custom list. A device that no catalogue knows is dropped.
     void addDevice(const HidEntry &entry, quint64 id, const QString &vendorPath, const QString &devicePath,

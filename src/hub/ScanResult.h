@@ -20,10 +20,19 @@ struct DeviceSighting
     QString devicePath;
 };
 
+/// One interface that is asked who it is, and that a pass couldn't open.
+struct UnopenedDevice
+{
+    QString product; ///< as the device calls itself; may be empty
+    quint8 connectionType = UsbConnection;
+    QString devicePath;
+};
+
 /// What one pass found; plain values that go from the enumeration thread to the GUI thread.
 struct ScanResult
 {
     std::vector<DeviceSighting> sightings; ///< in the order they were met
     QSet<QString> seenPaths;               ///< met on the bus, supported or not
+    std::vector<UnopenedDevice> unopened;  ///< each path once
     qint64 finishedAt = 0;                 ///< seconds since the epoch
 };

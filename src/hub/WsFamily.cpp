@@ -41,8 +41,10 @@ int ask(hid_device *device, const ScanStop &stop)
 void visit(ScanPass &pass, const HidEntry &entry)
 {
     hid_device *device = pass.kept.open(entry.path);
-    if (!device)
+    if (!device) {
+        pass.missOpen(entry, entry.path, UsbConnection);
         return;
+    }
     const int id = ask(device, pass.stop);
     if (id < 0)
         return;

@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>Das System erlaubt keinen Zugriff auf diese Tastatur. Kopiere 70-orbehub.rules nach /etc/udev/rules.d und schließ die Tastatur neu an.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>Das System erlaubt keinen Zugriff auf diese Tastatur. Prüfe deine Benutzerrechte und schließ die Tastatur neu an.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>Die Tastatur ist getrennt. Schließ sie wieder an, um sie zu benutzen.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Antwortet nicht</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>Die Tastatur antwortet nicht. Vielleicht schläft sie: Drücke eine Taste, um sie zu wecken.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>Kein Zugriff</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Nicht zu öffnen</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>Die Tastatur lässt sich nicht öffnen. Vielleicht belegt sie ein anderes Programm: Beende es und schließ die Tastatur neu an.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Tastatur</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ Aus: Rapid Trigger endet, sobald die Taste über den Auslösepunkt steigt</trans
     <message>
         <source>行程测试</source>
         <translation>Hubtest</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>Tastatur wird gelesen</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>Tastatur wird beschrieben</translation>
     </message>
 </context>
 </TS>

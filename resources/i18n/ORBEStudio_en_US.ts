@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>The system doesn’t allow access to this keyboard. Copy 70-orbehub.rules to /etc/udev/rules.d and plug the keyboard in again.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>The system doesn’t allow access to this keyboard. Check your user rights and plug the keyboard in again.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Disconnected</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>The keyboard is disconnected. Plug it in again to use it.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Not responding</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>The keyboard isn’t responding. It may be asleep: press any key to wake it.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>No access</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Can’t be opened</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>The keyboard can’t be opened. Another program may be holding it: close that program and plug the keyboard in again.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Keyboard</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Retry</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ Off: Rapid Trigger ends when the key rises past its actuation point</translation
     <message>
         <source>行程测试</source>
         <translation>Travel test</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>Reading keyboard</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>Writing to keyboard</translation>
     </message>
 </context>
 </TS>

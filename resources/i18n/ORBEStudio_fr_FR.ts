@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>Le système refuse l’accès à ce clavier. Copiez 70-orbehub.rules dans /etc/udev/rules.d, puis rebranchez le clavier.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>Le système refuse l’accès à ce clavier. Vérifiez vos droits d’utilisateur, puis rebranchez le clavier.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Déconnecté</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>Le clavier est déconnecté. Rebranchez-le pour l’utiliser.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Ne répond pas</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>Le clavier ne répond pas. Il est peut-être en veille&#xa0;: appuyez sur une touche pour le réveiller.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>Accès refusé</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Impossible à ouvrir</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>Impossible d’ouvrir le clavier. Un autre programme l’utilise peut-être&#xa0;: fermez-le, puis rebranchez le clavier.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Clavier</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Réessayer</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ Désactivé&#xa0;: le Rapid Trigger s’arrête quand la touche repasse au-dessu
     <message>
         <source>行程测试</source>
         <translation>Test de course</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>Lecture du clavier</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>Écriture sur le clavier</translation>
     </message>
 </context>
 </TS>

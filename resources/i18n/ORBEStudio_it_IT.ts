@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>Il sistema non consente l’accesso a questa tastiera. Copia 70-orbehub.rules in /etc/udev/rules.d e ricollega la tastiera.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>Il sistema non consente l’accesso a questa tastiera. Controlla i tuoi permessi utente e ricollega la tastiera.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Scollegata</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>La tastiera è scollegata. Ricollegala per usarla.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Non risponde</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>La tastiera non risponde. Forse è in standby: premi un tasto per riattivarla.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>Accesso negato</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Impossibile aprire</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>Impossibile aprire la tastiera. Forse la sta usando un altro programma: chiudilo e ricollega la tastiera.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Tastiera</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Riprova</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ Disattivo: il Rapid Trigger termina quando il tasto risale oltre il punto di att
     <message>
         <source>行程测试</source>
         <translation>Test corsa</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>Lettura tastiera</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>Scrittura tastiera</translation>
     </message>
 </context>
 </TS>

@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>システムがこのキーボードへのアクセスを許可していません。70-orbehub.rules を /etc/udev/rules.d にコピーし、キーボードを接続し直してください。</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>システムがこのキーボードへのアクセスを許可していません。ユーザー権限を確認し、キーボードを接続し直してください。</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>切断されています</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>キーボードが切断されました。再接続すると使用できます。</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>キーボードが応答しません。スリープ中の場合は、いずれかのキーを押して復帰させてください。</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>アクセス権がありません</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>開けません</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>キーボードを開けません。他のプログラムが使用している可能性があります。そのプログラムを閉じて、キーボードを接続し直してください。</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>キーボード</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>再試行</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ B</translation>
     <message>
         <source>行程测试</source>
         <translation>ストロークテスト</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>キーボードを読み取り中</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>キーボードに書き込み中</translation>
     </message>
 </context>
 </TS>

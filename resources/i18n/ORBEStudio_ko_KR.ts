@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>시스템이 이 키보드에 대한 접근을 허용하지 않습니다. 70-orbehub.rules를 /etc/udev/rules.d에 복사한 후 키보드를 다시 연결하세요.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>시스템이 이 키보드에 대한 접근을 허용하지 않습니다. 사용자 권한을 확인한 후 키보드를 다시 연결하세요.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>연결 끊김</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>키보드 연결이 끊겼습니다. 다시 연결하면 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>응답 없음</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>키보드가 응답하지 않습니다. 절전 상태일 수 있으니 아무 키나 눌러 깨우세요.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>접근 권한 없음</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>열 수 없음</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>키보드를 열 수 없습니다. 다른 프로그램이 사용 중일 수 있습니다. 해당 프로그램을 닫고 키보드를 다시 연결하세요.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>키보드</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>예</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>아니요</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>다시 시도</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ B</translation>
     <message>
         <source>行程测试</source>
         <translation>트래블 테스트</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>키보드 읽는 중</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>키보드에 쓰는 중</translation>
     </message>
 </context>
 </TS>

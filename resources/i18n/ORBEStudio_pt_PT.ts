@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>O sistema não permite o acesso a este teclado. Copie 70-orbehub.rules para /etc/udev/rules.d e volte a ligar o teclado.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>O sistema não permite o acesso a este teclado. Verifique as suas permissões e volte a ligar o teclado.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>O teclado está desligado. Volte a ligá-lo para o usar.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Sem resposta</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>O teclado não responde. Pode estar em suspensão: prima qualquer tecla para o ativar.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>Sem acesso</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Não abre</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>Não é possível abrir o teclado. Outro programa pode estar a usá-lo: feche-o e volte a ligar o teclado.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Teclado</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Tentar de novo</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ Desligado: o Rapid Trigger termina quando a tecla sobe acima do ponto de atuaç�
     <message>
         <source>行程测试</source>
         <translation>Teste de curso</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>A ler o teclado</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>A gravar no teclado</translation>
     </message>
 </context>
 </TS>

@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>Система не даёт доступа к этой клавиатуре. Скопируйте 70-orbehub.rules в /etc/udev/rules.d и подключите клавиатуру снова.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>Система не даёт доступа к этой клавиатуре. Проверьте права пользователя и подключите клавиатуру снова.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Отключена</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>Клавиатура отключена. Подключите её снова.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Не отвечает</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>Клавиатура не отвечает. Возможно, она спит: нажмите любую клавишу.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>Нет доступа</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Не открывается</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>Не удаётся открыть клавиатуру. Возможно, её занимает другая программа: закройте её и подключите клавиатуру снова.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Клавиатура</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Назад</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Повторить</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ B</translation>
     <message>
         <source>行程测试</source>
         <translation>Тест хода</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>Чтение клавиатуры</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>Запись в клавиатуру</translation>
     </message>
 </context>
 </TS>

@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>Systemet tillåter inte åtkomst till tangentbordet. Kopiera 70-orbehub.rules till /etc/udev/rules.d och anslut tangentbordet igen.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>Systemet tillåter inte åtkomst till tangentbordet. Kontrollera dina användarrättigheter och anslut tangentbordet igen.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Frånkopplat</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>Tangentbordet är frånkopplat. Anslut det igen för att använda det.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Svarar inte</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>Tangentbordet svarar inte. Det kanske är i viloläge: tryck på valfri tangent för att väcka det.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>Ingen åtkomst</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Kan inte öppnas</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>Tangentbordet kan inte öppnas. Ett annat program kanske använder det: stäng programmet och anslut tangentbordet igen.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Tangentbord</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Tillbaka</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Nej</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Avbryt</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Försök igen</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ Av: Rapid Trigger slutar när tangenten stiger över aktiveringspunkten</transla
     <message>
         <source>行程测试</source>
         <translation>Slaglängdstest</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>Läser tangentbordet</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>Skriver till tangentbordet</translation>
     </message>
 </context>
 </TS>

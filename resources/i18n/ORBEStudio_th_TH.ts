@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>ระบบไม่อนุญาตให้เข้าถึงคีย์บอร์ดนี้ คัดลอก 70-orbehub.rules ไปยัง /etc/udev/rules.d แล้วเสียบคีย์บอร์ดใหม่</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>ระบบไม่อนุญาตให้เข้าถึงคีย์บอร์ดนี้ ตรวจสอบสิทธิ์ผู้ใช้แล้วเสียบคีย์บอร์ดใหม่</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>ตัดการเชื่อมต่อแล้ว</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>คีย์บอร์ดถูกตัดการเชื่อมต่อ เชื่อมต่ออีกครั้งเพื่อใช้งาน</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>ไม่ตอบสนอง</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>คีย์บอร์ดไม่ตอบสนอง อาจอยู่ในโหมดสลีป กดปุ่มใดก็ได้เพื่อปลุก</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>ไม่มีสิทธิ์เข้าถึง</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>เปิดไม่ได้</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>เปิดคีย์บอร์ดไม่ได้ อาจมีโปรแกรมอื่นใช้งานอยู่ ปิดโปรแกรมนั้นแล้วเสียบคีย์บอร์ดใหม่</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>คีย์บอร์ด</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>กลับ</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>ใช่</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>ไม่ใช่</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ตกลง</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>ยกเลิก</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>ลองใหม่</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ B</translation>
     <message>
         <source>行程测试</source>
         <translation>ทดสอบระยะกด</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>กำลังอ่านคีย์บอร์ด</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>กำลังเขียนลงคีย์บอร์ด</translation>
     </message>
 </context>
 </TS>

@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>Sistem bu klavyeye erişime izin vermiyor. 70-orbehub.rules dosyasını /etc/udev/rules.d klasörüne kopyalayıp klavyeyi yeniden takın.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>Sistem bu klavyeye erişime izin vermiyor. Kullanıcı izinlerinizi denetleyip klavyeyi yeniden takın.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Bağlantı kesildi</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>Klavyenin bağlantısı kesildi. Kullanmak için yeniden bağlayın.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>Klavye yanıt vermiyor. Uykuda olabilir: uyandırmak için bir tuşa basın.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>Erişim yok</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Açılamıyor</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>Klavye açılamıyor. Başka bir program kullanıyor olabilir: o programı kapatıp klavyeyi yeniden takın.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Klavye</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Evet</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Hayır</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>İptal</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Yeniden dene</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ Kapalı: Rapid Trigger, tuş tetikleme noktasının üstüne çıkınca sona ere
     <message>
         <source>行程测试</source>
         <translation>Mesafe testi</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>Klavye okunuyor</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>Klavyeye yazılıyor</translation>
     </message>
 </context>
 </TS>

@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>Hệ thống không cho phép truy cập bàn phím này. Hãy sao chép 70-orbehub.rules vào /etc/udev/rules.d rồi cắm lại bàn phím.</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>Hệ thống không cho phép truy cập bàn phím này. Hãy kiểm tra quyền người dùng rồi cắm lại bàn phím.</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>Đã ngắt kết nối</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>Bàn phím đã ngắt kết nối. Hãy kết nối lại để sử dụng.</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>Không phản hồi</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>Bàn phím không phản hồi. Có thể nó đang ngủ: nhấn phím bất kỳ để đánh thức.</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>Không có quyền truy cập</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>Không mở được</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>Không mở được bàn phím. Có thể một chương trình khác đang dùng nó: hãy đóng chương trình đó rồi cắm lại bàn phím.</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>Bàn phím</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>Quay lại</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>Có</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Không</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Hủy</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>Thử lại</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ Tắt: Rapid Trigger kết thúc khi phím nhả lên quá điểm kích hoạt<
     <message>
         <source>行程测试</source>
         <translation>Kiểm tra hành trình</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>Đang đọc bàn phím</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>Đang ghi vào bàn phím</translation>
     </message>
 </context>
 </TS>

@@ -154,6 +154,49 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>DeviceTrouble</name>
+    <message>
+        <source>系统不允许访问此键盘。请将 70-orbehub.rules 复制到 /etc/udev/rules.d，然后重新插拔键盘。</source>
+        <translation>系統不允許存取此鍵盤。請將 70-orbehub.rules 複製到 /etc/udev/rules.d，然後重新插拔鍵盤。</translation>
+    </message>
+    <message>
+        <source>系统不允许访问此键盘。请检查您的用户权限，然后重新插拔键盘。</source>
+        <translation>系統不允許存取此鍵盤。請檢查您的使用者權限，然後重新插拔鍵盤。</translation>
+    </message>
+    <message>
+        <source>已断开</source>
+        <translation>已斷線</translation>
+    </message>
+    <message>
+        <source>键盘已断开，重新连接后即可使用。</source>
+        <translation>鍵盤已斷線，重新連接後即可使用。</translation>
+    </message>
+    <message>
+        <source>没有响应</source>
+        <translation>沒有回應</translation>
+    </message>
+    <message>
+        <source>键盘没有响应，可能处于休眠状态，请按任意键唤醒。</source>
+        <translation>鍵盤沒有回應，可能處於休眠狀態，請按任意鍵喚醒。</translation>
+    </message>
+    <message>
+        <source>没有访问权限</source>
+        <translation>沒有存取權限</translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation>無法開啟</translation>
+    </message>
+    <message>
+        <source>无法打开键盘，可能正被其他程序占用。请关闭该程序后重新插拔键盘。</source>
+        <translation>無法開啟鍵盤，可能正被其他程式占用。請關閉該程式後重新插拔鍵盤。</translation>
+    </message>
+    <message>
+        <source>键盘</source>
+        <translation>鍵盤</translation>
+    </message>
+</context>
+<context>
     <name>DialogColorPicker</name>
     <message>
         <source>取色器</source>
@@ -946,6 +989,25 @@ B</translation>
     <message>
         <source>返回</source>
         <translation>返回</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBox</name>
+    <message>
+        <source>是</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2108,13 @@ B</translation>
     </message>
 </context>
 <context>
+    <name>ShellNotices</name>
+    <message>
+        <source>重试</source>
+        <translation>重試</translation>
+    </message>
+</context>
+<context>
     <name>StabilityPage</name>
     <message>
         <source>RT Stab(RT 增稳算法)</source>
@@ -2168,6 +2237,17 @@ B</translation>
     <message>
         <source>行程测试</source>
         <translation>行程測試</translation>
+    </message>
+</context>
+<context>
+    <name>WorkMeter</name>
+    <message>
+        <source>正在读取键盘</source>
+        <translation>正在讀取鍵盤</translation>
+    </message>
+    <message>
+        <source>正在写入键盘</source>
+        <translation>正在寫入鍵盤</translation>
     </message>
 </context>
 </TS>

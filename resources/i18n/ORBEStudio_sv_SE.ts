@@ -2097,17 +2097,6 @@ B</translation>
     </message>
 </context>
 <context>
-    <name>QPlatformTheme</name>
-    <message>
-        <source>&amp;Yes</source>
-        <translation>&amp;Ja</translation>
-    </message>
-    <message>
-        <source>&amp;No</source>
-        <translation>&amp;Nej</translation>
-    </message>
-</context>
-<context>
     <name>ShellNotices</name>
     <message>
         <source>重试</source>

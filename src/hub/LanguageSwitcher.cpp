@@ -11,11 +11,9 @@
 
 namespace {
 
-/// Qt's own texts that the program shows, for languages that Qt comes without: the buttons of message boxes
-/// and the menus of edit and spin boxes. Where Qt has its own text, that one shows.
+/// Qt's own texts that the program shows, the menus of edit and spin boxes, for languages that Qt comes
+/// without. Where Qt has its own text, that one shows.
 [[maybe_unused]] constexpr std::array QtTexts{
-    QT_TRANSLATE_NOOP("QPlatformTheme", "&Yes"),
-    QT_TRANSLATE_NOOP("QPlatformTheme", "&No"),
     QT_TRANSLATE_NOOP("QLineEdit", "&Undo"),
     QT_TRANSLATE_NOOP("QLineEdit", "&Redo"),
     QT_TRANSLATE_NOOP("QLineEdit", "Cu&t"),

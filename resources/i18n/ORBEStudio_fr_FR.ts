@@ -470,7 +470,7 @@ B</translation>
     <name>FrameDeviceShow</name>
     <message>
         <source>剩余电量</source>
-        <translation>Batterie restante</translation>
+        <translation>Batterie restante&#xa0;</translation>
     </message>
 </context>
 <context>
@@ -667,7 +667,7 @@ B</translation>
     </message>
     <message>
         <source>占用</source>
-        <translation>Utilisé</translation>
+        <translation>Utilisé&#xa0;</translation>
     </message>
     <message>
         <source>字节</source>
@@ -698,7 +698,7 @@ B</translation>
     </message>
     <message>
         <source>已选中按键的数量</source>
-        <translation>Touches sélectionnées</translation>
+        <translation>Touches sélectionnées&#xa0;</translation>
     </message>
     <message>
         <source>高特</source>
@@ -1830,15 +1830,15 @@ B</translation>
     </message>
     <message>
         <source>功能</source>
-        <translation>Fonction</translation>
+        <translation>Fonction&#xa0;</translation>
     </message>
     <message>
         <source>鼠标</source>
-        <translation>Souris</translation>
+        <translation>Souris&#xa0;</translation>
     </message>
     <message>
         <source>组合</source>
-        <translation>Combinaison</translation>
+        <translation>Combinaison&#xa0;</translation>
     </message>
 </context>
 <context>

@@ -1410,11 +1410,11 @@ B</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation>Volume +</translation>
+        <translation>Volume&#xa0;+</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Volume −</translation>
+        <translation>Volume&#xa0;−</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1458,11 +1458,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Screen brightness +</translation>
+        <translation>Screen brightness&#xa0;+</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Screen brightness −</translation>
+        <translation>Screen brightness&#xa0;−</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1502,11 +1502,11 @@ B</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI +</translation>
+        <translation>DPI&#xa0;+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI −</translation>
+        <translation>DPI&#xa0;−</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1530,11 +1530,11 @@ B</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile +</translation>
+        <translation>Profile&#xa0;+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile −</translation>
+        <translation>Profile&#xa0;−</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
@@ -1614,11 +1614,11 @@ B</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation>Backlight effect +</translation>
+        <translation>Backlight effect&#xa0;+</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Backlight effect −</translation>
+        <translation>Backlight effect&#xa0;−</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1626,11 +1626,11 @@ B</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation>Backlight brightness +</translation>
+        <translation>Backlight brightness&#xa0;+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Backlight brightness −</translation>
+        <translation>Backlight brightness&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1638,11 +1638,11 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Backlight speed −</translation>
+        <translation>Backlight speed&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation>Backlight speed +</translation>
+        <translation>Backlight speed&#xa0;+</translation>
     </message>
     <message>
         <source>背光方向循环</source>
@@ -1662,11 +1662,11 @@ B</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation>Backlight color +</translation>
+        <translation>Backlight color&#xa0;+</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Backlight color −</translation>
+        <translation>Backlight color&#xa0;−</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1706,11 +1706,11 @@ B</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation>Side light speed +</translation>
+        <translation>Side light speed&#xa0;+</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Side light speed −</translation>
+        <translation>Side light speed&#xa0;−</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1718,11 +1718,11 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation>Side light color +</translation>
+        <translation>Side light color&#xa0;+</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Side light color −</translation>
+        <translation>Side light color&#xa0;−</translation>
     </message>
     <message>
         <source>2.4G</source>

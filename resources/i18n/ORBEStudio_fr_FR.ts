@@ -1410,11 +1410,11 @@ B</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation>Volume +</translation>
+        <translation>Volume&#xa0;+</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Volume −</translation>
+        <translation>Volume&#xa0;−</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1458,11 +1458,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Luminosité de l’écran +</translation>
+        <translation>Luminosité de l’écran&#xa0;+</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Luminosité de l’écran −</translation>
+        <translation>Luminosité de l’écran&#xa0;−</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1502,11 +1502,11 @@ B</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI +</translation>
+        <translation>DPI&#xa0;+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI −</translation>
+        <translation>DPI&#xa0;−</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1530,11 +1530,11 @@ B</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profil +</translation>
+        <translation>Profil&#xa0;+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profil −</translation>
+        <translation>Profil&#xa0;−</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
@@ -1614,11 +1614,11 @@ B</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation>Effet +</translation>
+        <translation>Effet&#xa0;+</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Effet −</translation>
+        <translation>Effet&#xa0;−</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1626,11 +1626,11 @@ B</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation>Luminosité du rétroéclairage +</translation>
+        <translation>Luminosité du rétroéclairage&#xa0;+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Luminosité du rétroéclairage −</translation>
+        <translation>Luminosité du rétroéclairage&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1638,11 +1638,11 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Vitesse du rétroéclairage −</translation>
+        <translation>Vitesse du rétroéclairage&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation>Vitesse du rétroéclairage +</translation>
+        <translation>Vitesse du rétroéclairage&#xa0;+</translation>
     </message>
     <message>
         <source>背光方向循环</source>
@@ -1662,11 +1662,11 @@ B</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation>Couleur +</translation>
+        <translation>Couleur&#xa0;+</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Couleur −</translation>
+        <translation>Couleur&#xa0;−</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1706,11 +1706,11 @@ B</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation>Vitesse latérale +</translation>
+        <translation>Vitesse latérale&#xa0;+</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Vitesse latérale −</translation>
+        <translation>Vitesse latérale&#xa0;−</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1718,11 +1718,11 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation>Couleur latérale +</translation>
+        <translation>Couleur latérale&#xa0;+</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Couleur latérale −</translation>
+        <translation>Couleur latérale&#xa0;−</translation>
     </message>
     <message>
         <source>2.4G</source>

@@ -755,7 +755,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst magnético</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
@@ -1410,11 +1410,11 @@ B</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation>Volume +</translation>
+        <translation>Volume&#xa0;+</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Volume −</translation>
+        <translation>Volume&#xa0;−</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1458,11 +1458,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Brilho do ecrã +</translation>
+        <translation>Brilho do ecrã&#xa0;+</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Brilho do ecrã −</translation>
+        <translation>Brilho do ecrã&#xa0;−</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1502,11 +1502,11 @@ B</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI +</translation>
+        <translation>DPI&#xa0;+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI −</translation>
+        <translation>DPI&#xa0;−</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1530,11 +1530,11 @@ B</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Perfil +</translation>
+        <translation>Perfil&#xa0;+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Perfil −</translation>
+        <translation>Perfil&#xa0;−</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
@@ -1614,11 +1614,11 @@ B</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation>Efeito +</translation>
+        <translation>Efeito&#xa0;+</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Efeito −</translation>
+        <translation>Efeito&#xa0;−</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1626,11 +1626,11 @@ B</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation>Brilho da luz +</translation>
+        <translation>Brilho da luz&#xa0;+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Brilho da luz −</translation>
+        <translation>Brilho da luz&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1638,11 +1638,11 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Velocidade da luz −</translation>
+        <translation>Velocidade da luz&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation>Velocidade da luz +</translation>
+        <translation>Velocidade da luz&#xa0;+</translation>
     </message>
     <message>
         <source>背光方向循环</source>
@@ -1662,11 +1662,11 @@ B</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation>Cor da luz +</translation>
+        <translation>Cor da luz&#xa0;+</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Cor da luz −</translation>
+        <translation>Cor da luz&#xa0;−</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1706,11 +1706,11 @@ B</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation>Velocidade lateral +</translation>
+        <translation>Velocidade lateral&#xa0;+</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Velocidade lateral −</translation>
+        <translation>Velocidade lateral&#xa0;−</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1718,11 +1718,11 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation>Cor lateral +</translation>
+        <translation>Cor lateral&#xa0;+</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Cor lateral −</translation>
+        <translation>Cor lateral&#xa0;−</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -2158,7 +2158,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst magnético</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>磁玉</source>

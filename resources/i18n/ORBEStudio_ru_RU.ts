@@ -459,7 +459,7 @@ B</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation>Калибровка хода</translation>
+        <translation>Калибровка</translation>
     </message>
     <message>
         <source>灯光设置</source>
@@ -887,7 +887,7 @@ B</translation>
     <name>LinearFixing2</name>
     <message>
         <source>行程校准</source>
-        <translation>Калибровка хода</translation>
+        <translation>Калибровка</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -1410,11 +1410,11 @@ B</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation>Громкость +</translation>
+        <translation>Громкость&#xa0;+</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Громкость −</translation>
+        <translation>Громкость&#xa0;−</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1458,11 +1458,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Яркость экрана +</translation>
+        <translation>Яркость экрана&#xa0;+</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Яркость экрана −</translation>
+        <translation>Яркость экрана&#xa0;−</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1502,11 +1502,11 @@ B</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI +</translation>
+        <translation>DPI&#xa0;+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI −</translation>
+        <translation>DPI&#xa0;−</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1530,11 +1530,11 @@ B</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Профиль +</translation>
+        <translation>Профиль&#xa0;+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Профиль −</translation>
+        <translation>Профиль&#xa0;−</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
@@ -1614,11 +1614,11 @@ B</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation>Эффект +</translation>
+        <translation>Эффект&#xa0;+</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Эффект −</translation>
+        <translation>Эффект&#xa0;−</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1626,11 +1626,11 @@ B</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation>Яркость подсветки +</translation>
+        <translation>Яркость подсветки&#xa0;+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Яркость подсветки −</translation>
+        <translation>Яркость подсветки&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1638,11 +1638,11 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Скорость подсветки −</translation>
+        <translation>Скорость подсветки&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation>Скорость подсветки +</translation>
+        <translation>Скорость подсветки&#xa0;+</translation>
     </message>
     <message>
         <source>背光方向循环</source>
@@ -1662,11 +1662,11 @@ B</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation>Цвет подсветки +</translation>
+        <translation>Цвет подсветки&#xa0;+</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Цвет подсветки −</translation>
+        <translation>Цвет подсветки&#xa0;−</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1706,11 +1706,11 @@ B</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation>Скорость боковой подсветки +</translation>
+        <translation>Скорость боковой подсветки&#xa0;+</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Скорость боковой подсветки −</translation>
+        <translation>Скорость боковой подсветки&#xa0;−</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1718,11 +1718,11 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation>Цвет боковой подсветки +</translation>
+        <translation>Цвет боковой подсветки&#xa0;+</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Цвет боковой подсветки −</translation>
+        <translation>Цвет боковой подсветки&#xa0;−</translation>
     </message>
     <message>
         <source>2.4G</source>

@@ -1410,11 +1410,11 @@ B</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation>เสียง +</translation>
+        <translation>เสียง&#xa0;+</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>เสียง −</translation>
+        <translation>เสียง&#xa0;−</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1458,11 +1458,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>จอสว่าง +</translation>
+        <translation>จอสว่าง&#xa0;+</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>จอสว่าง −</translation>
+        <translation>จอสว่าง&#xa0;−</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1502,11 +1502,11 @@ B</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI +</translation>
+        <translation>DPI&#xa0;+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI −</translation>
+        <translation>DPI&#xa0;−</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1614,11 +1614,11 @@ B</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation>เอฟเฟกต์ไฟ +</translation>
+        <translation>เอฟเฟกต์ไฟ&#xa0;+</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>เอฟเฟกต์ไฟ −</translation>
+        <translation>เอฟเฟกต์ไฟ&#xa0;−</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1626,11 +1626,11 @@ B</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation>ความสว่างไฟ +</translation>
+        <translation>ความสว่างไฟ&#xa0;+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>ความสว่างไฟ −</translation>
+        <translation>ความสว่างไฟ&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1638,11 +1638,11 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>ความเร็วไฟ −</translation>
+        <translation>ความเร็วไฟ&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation>ความเร็วไฟ +</translation>
+        <translation>ความเร็วไฟ&#xa0;+</translation>
     </message>
     <message>
         <source>背光方向循环</source>
@@ -1662,11 +1662,11 @@ B</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation>สีไฟ +</translation>
+        <translation>สีไฟ&#xa0;+</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>สีไฟ −</translation>
+        <translation>สีไฟ&#xa0;−</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1706,11 +1706,11 @@ B</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation>ความเร็วไฟข้าง +</translation>
+        <translation>ความเร็วไฟข้าง&#xa0;+</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>ความเร็วไฟข้าง −</translation>
+        <translation>ความเร็วไฟข้าง&#xa0;−</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1718,11 +1718,11 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation>สีไฟข้าง +</translation>
+        <translation>สีไฟข้าง&#xa0;+</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>สีไฟข้าง −</translation>
+        <translation>สีไฟข้าง&#xa0;−</translation>
     </message>
     <message>
         <source>2.4G</source>

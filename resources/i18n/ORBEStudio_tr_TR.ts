@@ -755,7 +755,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst manyetik</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
@@ -1410,11 +1410,11 @@ B</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation>Ses +</translation>
+        <translation>Ses&#xa0;+</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Ses −</translation>
+        <translation>Ses&#xa0;−</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1458,11 +1458,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Ekran parlaklığı +</translation>
+        <translation>Ekran parlaklığı&#xa0;+</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Ekran parlaklığı −</translation>
+        <translation>Ekran parlaklığı&#xa0;−</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1502,11 +1502,11 @@ B</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI +</translation>
+        <translation>DPI&#xa0;+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI −</translation>
+        <translation>DPI&#xa0;−</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1530,11 +1530,11 @@ B</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profil +</translation>
+        <translation>Profil&#xa0;+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profil −</translation>
+        <translation>Profil&#xa0;−</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
@@ -1614,11 +1614,11 @@ B</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation>Arka ışık efekti +</translation>
+        <translation>Arka ışık efekti&#xa0;+</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Arka ışık efekti −</translation>
+        <translation>Arka ışık efekti&#xa0;−</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1626,11 +1626,11 @@ B</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation>Arka ışık parlaklığı +</translation>
+        <translation>Arka ışık parlaklığı&#xa0;+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Arka ışık parlaklığı −</translation>
+        <translation>Arka ışık parlaklığı&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1638,11 +1638,11 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Arka ışık hızı −</translation>
+        <translation>Arka ışık hızı&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation>Arka ışık hızı +</translation>
+        <translation>Arka ışık hızı&#xa0;+</translation>
     </message>
     <message>
         <source>背光方向循环</source>
@@ -1662,11 +1662,11 @@ B</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation>Arka ışık rengi +</translation>
+        <translation>Arka ışık rengi&#xa0;+</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Arka ışık rengi −</translation>
+        <translation>Arka ışık rengi&#xa0;−</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1706,11 +1706,11 @@ B</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation>Yan ışık hızı +</translation>
+        <translation>Yan ışık hızı&#xa0;+</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Yan ışık hızı −</translation>
+        <translation>Yan ışık hızı&#xa0;−</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1718,11 +1718,11 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation>Yan ışık rengi +</translation>
+        <translation>Yan ışık rengi&#xa0;+</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Yan ışık rengi −</translation>
+        <translation>Yan ışık rengi&#xa0;−</translation>
     </message>
     <message>
         <source>2.4G</source>
@@ -2158,7 +2158,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst manyetik</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>磁玉</source>

@@ -455,11 +455,11 @@ B</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Khôi phục mặc định</translation>
+        <translation>Mặc định</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation>Hiệu chuẩn hành trình</translation>
+        <translation>Hiệu chuẩn</translation>
     </message>
     <message>
         <source>灯光设置</source>
@@ -887,7 +887,7 @@ B</translation>
     <name>LinearFixing2</name>
     <message>
         <source>行程校准</source>
-        <translation>Hiệu chuẩn hành trình</translation>
+        <translation>Hiệu chuẩn</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>
@@ -1410,11 +1410,11 @@ B</translation>
     </message>
     <message>
         <source>音量+</source>
-        <translation>Âm lượng +</translation>
+        <translation>Âm lượng&#xa0;+</translation>
     </message>
     <message>
         <source>音量-</source>
-        <translation>Âm lượng −</translation>
+        <translation>Âm lượng&#xa0;−</translation>
     </message>
     <message>
         <source>播放器</source>
@@ -1458,11 +1458,11 @@ B</translation>
     </message>
     <message>
         <source>亮度+</source>
-        <translation>Độ sáng màn hình +</translation>
+        <translation>Độ sáng màn hình&#xa0;+</translation>
     </message>
     <message>
         <source>亮度-</source>
-        <translation>Độ sáng màn hình −</translation>
+        <translation>Độ sáng màn hình&#xa0;−</translation>
     </message>
     <message>
         <source>放大</source>
@@ -1502,11 +1502,11 @@ B</translation>
     </message>
     <message>
         <source>DPI+</source>
-        <translation>DPI +</translation>
+        <translation>DPI&#xa0;+</translation>
     </message>
     <message>
         <source>DPI-</source>
-        <translation>DPI −</translation>
+        <translation>DPI&#xa0;−</translation>
     </message>
     <message>
         <source>DPI-Shift</source>
@@ -1530,11 +1530,11 @@ B</translation>
     </message>
     <message>
         <source>Profile+</source>
-        <translation>Profile +</translation>
+        <translation>Profile&#xa0;+</translation>
     </message>
     <message>
         <source>Profile-</source>
-        <translation>Profile −</translation>
+        <translation>Profile&#xa0;−</translation>
     </message>
     <message>
         <source>Profile-Loop</source>
@@ -1614,11 +1614,11 @@ B</translation>
     </message>
     <message>
         <source>背光灯效+</source>
-        <translation>Hiệu ứng nền +</translation>
+        <translation>Hiệu ứng nền&#xa0;+</translation>
     </message>
     <message>
         <source>背光灯效-</source>
-        <translation>Hiệu ứng nền −</translation>
+        <translation>Hiệu ứng nền&#xa0;−</translation>
     </message>
     <message>
         <source>背光亮度循环</source>
@@ -1626,11 +1626,11 @@ B</translation>
     </message>
     <message>
         <source>背光亮度+</source>
-        <translation>Độ sáng nền +</translation>
+        <translation>Độ sáng nền&#xa0;+</translation>
     </message>
     <message>
         <source>背光亮度-</source>
-        <translation>Độ sáng nền −</translation>
+        <translation>Độ sáng nền&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度循环</source>
@@ -1638,11 +1638,11 @@ B</translation>
     </message>
     <message>
         <source>背光速度-</source>
-        <translation>Tốc độ nền −</translation>
+        <translation>Tốc độ nền&#xa0;−</translation>
     </message>
     <message>
         <source>背光速度+</source>
-        <translation>Tốc độ nền +</translation>
+        <translation>Tốc độ nền&#xa0;+</translation>
     </message>
     <message>
         <source>背光方向循环</source>
@@ -1662,11 +1662,11 @@ B</translation>
     </message>
     <message>
         <source>背光颜色+</source>
-        <translation>Màu nền +</translation>
+        <translation>Màu nền&#xa0;+</translation>
     </message>
     <message>
         <source>背光颜色-</source>
-        <translation>Màu nền −</translation>
+        <translation>Màu nền&#xa0;−</translation>
     </message>
     <message>
         <source>Use Pic 0</source>
@@ -1706,11 +1706,11 @@ B</translation>
     </message>
     <message>
         <source>侧光速度+</source>
-        <translation>Tốc độ viền +</translation>
+        <translation>Tốc độ viền&#xa0;+</translation>
     </message>
     <message>
         <source>侧光速度-</source>
-        <translation>Tốc độ viền −</translation>
+        <translation>Tốc độ viền&#xa0;−</translation>
     </message>
     <message>
         <source>侧光颜色循环</source>
@@ -1718,11 +1718,11 @@ B</translation>
     </message>
     <message>
         <source>侧光颜色+</source>
-        <translation>Màu viền +</translation>
+        <translation>Màu viền&#xa0;+</translation>
     </message>
     <message>
         <source>侧光颜色-</source>
-        <translation>Màu viền −</translation>
+        <translation>Màu viền&#xa0;−</translation>
     </message>
     <message>
         <source>2.4G</source>

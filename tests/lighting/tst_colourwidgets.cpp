@@ -37,11 +37,9 @@ class TestColourWidgets : public QObject
 private Q_SLOTS:
     void pointerChoosesItsPixel();
     void aNewHueIsReportedForTheSamePlace();
-    void oneSwatchOfAParentIsSelected();
     void everyChoiceIsReportedTwice();
     void typedChannels();
     void pickerGoesWithItsWindow();
-    void pickerStaysOnTheScreen();
     void pipetteTakesWhatIsUnderThePointer();
 };
 
@@ -90,23 +88,6 @@ void TestColourWidgets::aNewHueIsReportedForTheSamePlace()
     square.grab();
     QTest::keyClick(&square, Qt::Key_Left);
     QCOMPARE(lastColor(selected), colorAt(2.0 / 3, 298, 0));
-}
-
-void TestColourWidgets::oneSwatchOfAParentIsSelected()
-{
-    QWidget here;
-    QWidget there;
-    auto *first = new ColorLabel(&here);
-    auto *second = new ColorLabel(&here);
-    ColorLabel other(&there);
-    QTest::mousePress(&other, Qt::LeftButton);
-    QVERIFY(!ColorLabel::selectedOf(&here));
-    QTest::mousePress(first, Qt::LeftButton);
-    QVERIFY(first->isSelected() && other.isSelected());
-    QTest::keyClick(second, Qt::Key_Space);
-    QCOMPARE(ColorLabel::selectedOf(&here), second);
-    delete second;
-    QVERIFY(!ColorLabel::selectedOf(&here));
 }
 
 void TestColourWidgets::everyChoiceIsReportedTwice()
@@ -159,20 +140,6 @@ void TestColourWidgets::pickerGoesWithItsWindow()
     pipette->show();
     picker.findChild<QPushButton *>(QStringLiteral("pushButton"))->click();
     QVERIFY(!picker.isVisible() && !pipette->isVisible());
-}
-
-void TestColourWidgets::pickerStaysOnTheScreen()
-{
-    DialogColorPicker picker;
-    const QRect screen = picker.screen()->availableGeometry();
-    QCursor::setPos(screen.center());
-    picker.showAt(-1, -1);
-    QCOMPARE(picker.pos(), screen.center() - QPoint(picker.width() / 2, 0));
-    QCursor::setPos(screen.bottomRight());
-    picker.showAt(-1, 20);
-    QVERIFY(screen.contains(picker.geometry()));
-    picker.showAt(30, 40);
-    QCOMPARE(picker.pos(), QPoint(30, 40));
 }
 
 void TestColourWidgets::pipetteTakesWhatIsUnderThePointer()

@@ -14,6 +14,7 @@
 #include <QSlider>
 #include <QTableView>
 #include <QTest>
+#include <tuple>
 
 namespace {
 
@@ -57,55 +58,41 @@ class TestEffects : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void clickShowsTheOptions_data();
     void clickShowsTheOptions();
     void replyIsShownAndNotSentBack();
     void levelsTellAndShow();
     void clickedDotGoesToTheMiddle();
     void customColourGoesToTheSelectedSwatch();
     void sideLightBlock();
-    void sideLightReply_data();
     void sideLightReply();
     void pickedColourIsSentAfterAPause();
 };
 
-void TestEffects::clickShowsTheOptions_data()
-{
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("options");
-    const auto row = [](int id, const char *label, const char *options) {
-        QTest::newRow(label) << id << QString::fromUtf8(label) << QString::fromUtf8(options);
-    };
-    row(4, "光波 (04)", "左,右,上,下");
-    row(7, "川流不息 (07)", "Z形,回形");
-    row(11, "彩泉涌动 (0B)", "向内,向外");
-    row(12, "百花争艳 (0C)", "向右,向左");
-    row(13, "自定义 (0D)", "图案1,图案2,图案3,图案4,图案5");
-    row(15, "峰回路转 (0F)", "顺时针,逆时针");
-    row(3, "霓虹 (03)", "无");
-    row(24, "层出不穷 (18)", "无");
-}
-
 void TestEffects::clickShowsTheOptions()
 {
-    QFETCH(int, id);
-    QFETCH(QString, options);
-    ModuleEfMode module;
-    QSignalSpy changed(&module, &ModuleEfMode::onModeChanged);
-    QTEST(effectButton(module, id)->text(), "label");
-    effectButton(module, id)->click();
-    QCOMPARE(changed, QList<QVariantList>({{id, uchar(0)}}));
-    QCOMPARE(optionsShown(module), options.split(u','));
-    auto *box = child<QComboBox>(module, "comboBoxPic");
-    QCOMPARE(box->isEnabled(), box->count() > 1);
-    box->setCurrentIndex(box->count() - 1);
-    if (box->isEnabled())
-        QCOMPARE(changed.last(), QVariantList({id, uchar(box->count() - 1)}));
-    QEvent language(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(&module, &language);
-    QCOMPARE(box->currentIndex(), box->count() - 1);
-    QCOMPARE(changed.size(), box->isEnabled() ? 2 : 1);
+    for (const auto &[id, label, options] : {std::tuple(4, "光波 (04)", "左,右,上,下"),
+                                             {7, "川流不息 (07)", "Z形,回形"},
+                                             {11, "彩泉涌动 (0B)", "向内,向外"},
+                                             {12, "百花争艳 (0C)", "向右,向左"},
+                                             {13, "自定义 (0D)", "图案1,图案2,图案3,图案4,图案5"},
+                                             {15, "峰回路转 (0F)", "顺时针,逆时针"},
+                                             {3, "霓虹 (03)", "无"},
+                                             {24, "层出不穷 (18)", "无"}}) {
+        ModuleEfMode module;
+        QSignalSpy changed(&module, &ModuleEfMode::onModeChanged);
+        QCOMPARE(effectButton(module, id)->text(), QString::fromUtf8(label));
+        effectButton(module, id)->click();
+        QCOMPARE(changed, QList<QVariantList>({{id, uchar(0)}}));
+        QCOMPARE(optionsShown(module).join(u','), QString::fromUtf8(options));
+        auto *box = child<QComboBox>(module, "comboBoxPic");
+        const int last = box->count() - 1;
+        box->setCurrentIndex(last);
+        QCOMPARE(changed.last(), QVariantList({id, uchar(last)}));
+        QEvent language(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&module, &language);
+        QCOMPARE(box->currentIndex(), last);
+        QCOMPARE(changed.size(), last > 0 ? 2 : 1);
+    }
 }
 
 void TestEffects::replyIsShownAndNotSentBack()
@@ -198,29 +185,22 @@ void TestEffects::sideLightBlock()
     QCOMPARE(side.size(), 6);
 }
 
-void TestEffects::sideLightReply_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QByteArray>("block"); // that the next click on brightness 2 sends
-    QTest::newRow("whole") << QByteArray("88040103080a141e0000")
-                           << QByteArray("00 04 01 02 08 0a 14 1e 00 00");
-    QTest::newRow("all colours") << QByteArray("8801040207ffffff")
-                                 << QByteArray("00 01 04 02 07 ff ff ff 00 00");
-    QTest::newRow("places past the groups")
-        << QByteArray("88ff060908010203") << QByteArray("00 00 00 02 08 01 02 03 00 00");
-    QTest::newRow("short") << QByteArray("8804010308") << QByteArray("00 00 00 02 07 ff ff ff 00 00");
-    QTest::newRow("empty") << QByteArray() << QByteArray("00 00 00 02 07 ff ff ff 00 00");
-}
-
 void TestEffects::sideLightReply()
 {
-    QFETCH(QByteArray, reply);
-    ModuleEfColor module;
-    QSignalSpy side(&module, &ModuleEfColor::onSetSideLed);
-    module.setSideLed(QByteArray::fromHex(reply));
-    QCOMPARE(side.size(), 0);
-    child<QAbstractButton>(module, "radioButtonL2")->click();
-    QTEST(lastBlock(side), "block");
+    // The block that a click on brightness 2 sends after the reply.
+    const auto blockAfter = [](const char *reply) {
+        ModuleEfColor module;
+        QSignalSpy side(&module, &ModuleEfColor::onSetSideLed);
+        module.setSideLed(QByteArray::fromHex(reply));
+        const bool silent = side.isEmpty();
+        child<QAbstractButton>(module, "radioButtonL2")->click();
+        return silent ? lastBlock(side) : QByteArray("sent back");
+    };
+    QCOMPARE(blockAfter("88040103080a141e0000"), "00 04 01 02 08 0a 14 1e 00 00");
+    QCOMPARE(blockAfter("8801040207ffffff"), "00 01 04 02 07 ff ff ff 00 00");
+    QCOMPARE(blockAfter("88ff060908010203"), "00 00 00 02 08 01 02 03 00 00"); // past the groups
+    for (const char *broken : {"8804010308", ""})
+        QCOMPARE(blockAfter(broken), "00 00 00 02 07 ff ff ff 00 00");
 }
 
 void TestEffects::pickedColourIsSentAfterAPause()

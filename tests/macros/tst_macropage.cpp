@@ -85,7 +85,6 @@ private Q_SLOTS:
     void recordedMacroPlaysOnTheKeyboard();
     void recordsTheMouse();
     void recordsNothingElse();
-    void insertsByHand_data();
     void insertsByHand();
     void editsInPlace();
     void deletesPairs();
@@ -250,39 +249,36 @@ void TestMacroPage::recordsNothingElse()
     QCOMPARE(stored(), QStringLiteral("0+:1 3-:50"));
 }
 
-void TestMacroPage::insertsByHand_data()
-{
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<QString>("steps");
-    QTest::newRow("key") << "radioButtonKey"
-                         << "0+:4 3-:50 0-:4 3-:50 ";
-    QTest::newRow("mouse buttons") << "radioButtonMouse"
-                                   << "1+:240 3-:50 1-:240 3-:50 1+:242 3-:50 1-:242 3-:50 ";
-    QTest::newRow("position") << "radioButtonPosition"
-                              << "2-:773 3-:50 ";
-    QTest::newRow("cancelled") << ""
-                               << "";
-}
-
 void TestMacroPage::insertsByHand()
 {
-    QFETCH(QString, choice);
-    QFETCH(QString, steps);
     addKeys(2);
-    QTimer::singleShot(0, page.get(), [choice] {
-        QWidget *mask = QApplication::activeModalWidget();
-        if (auto *radio = mask->findChild<QRadioButton *>(choice); !choice.isEmpty())
-            radio->click();
-        auto *key = mask->findChild<QLineEdit *>();
-        type(key, QEvent::KeyPress, ScanA);
-        for (const char *box : {"checkBox1", "checkBox2"})
-            mask->findChild<QAbstractButton *>(QLatin1String(box))->click();
-        mask->findChild<QSpinBox *>(QStringLiteral("spinBoxX"))->setValue(3);
-        mask->findChild<QSpinBox *>(QStringLiteral("spinBoxY"))->setValue(5);
-        QTest::keyClick(key, choice.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
-    });
-    Q_EMIT square(2)->onAction(square(2), MacroSquare::InsertHere);
-    QCOMPARE(shown(), QStringLiteral("0+:1 3-:50 ") + steps + QStringLiteral("0+:2 3-:50"));
+    // The steps that stand between the two keys after a choice in the dialog, or Escape.
+    const auto inserted = [this](const QString &choice) {
+        QTimer::singleShot(0, page.get(), [choice] {
+            QWidget *mask = QApplication::activeModalWidget();
+            if (auto *radio = mask->findChild<QRadioButton *>(choice); !choice.isEmpty())
+                radio->click();
+            auto *key = mask->findChild<QLineEdit *>();
+            type(key, QEvent::KeyPress, ScanA);
+            for (const char *box : {"checkBox1", "checkBox2"})
+                mask->findChild<QAbstractButton *>(QLatin1String(box))->click();
+            mask->findChild<QSpinBox *>(QStringLiteral("spinBoxX"))->setValue(3);
+            mask->findChild<QSpinBox *>(QStringLiteral("spinBoxY"))->setValue(5);
+            QTest::keyClick(key, choice.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
+        });
+        Q_EMIT square(2)->onAction(square(2), MacroSquare::InsertHere);
+        return shown();
+    };
+    const QString first = QStringLiteral("0+:1 3-:50 ");
+    QString rest = QStringLiteral("0+:2 3-:50");
+    QCOMPARE(inserted(QString()), first + rest);
+    for (const auto &[choice, steps] :
+         {std::pair{"radioButtonKey", "0+:4 3-:50 0-:4 3-:50 "},
+          {"radioButtonMouse", "1+:240 3-:50 1-:240 3-:50 1+:242 3-:50 1-:242 3-:50 "},
+          {"radioButtonPosition", "2-:773 3-:50 "}}) {
+        rest.prepend(QLatin1String(steps));
+        QCOMPARE(inserted(QLatin1String(choice)), first + rest);
+    }
     QTRY_COMPARE(stored(), shown());
 }
 

@@ -459,7 +459,7 @@ B</translation>
     </message>
     <message>
         <source>行程校准</source>
-        <translation>Travel calibration</translation>
+        <translation>Calibration</translation>
     </message>
     <message>
         <source>灯光设置</source>
@@ -887,7 +887,7 @@ B</translation>
     <name>LinearFixing2</name>
     <message>
         <source>行程校准</source>
-        <translation>Travel calibration</translation>
+        <translation>Calibration</translation>
     </message>
     <message>
         <source>请依次将每个按键轻按到底并停留至少1秒钟，直到按键变为橙色（表示该按键校准成功），请勿遗漏，可重复按按键。无线下不支持按键校准个数提示。校准过程中请勿拔出数据线。</source>

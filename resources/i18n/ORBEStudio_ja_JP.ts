@@ -126,11 +126,11 @@ B</translation>
     </message>
     <message>
         <source>2.4G关闭背光</source>
-        <translation>2.4G バックライト消灯</translation>
+        <translation>2.4G 消灯時間</translation>
     </message>
     <message>
         <source>蓝牙关闭背光</source>
-        <translation>Bluetooth バックライト消灯</translation>
+        <translation>Bluetooth 消灯時間</translation>
     </message>
     <message>
         <source>2.4G深度睡眠时间</source>
@@ -755,7 +755,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst 磁気スイッチ</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
@@ -2158,7 +2158,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst 磁気スイッチ</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>磁玉</source>

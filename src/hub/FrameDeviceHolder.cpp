@@ -15,6 +15,7 @@
 #include "ModuleGeneralMasker.h"
 #include "ModuleLinear.h"
 #include "NoticeBar.h"
+#include "ProgressLine.h"
 #include "ShellNotices.h"
 #include "ShellStyle.h"
 #include "SuperLabel.h"
@@ -57,6 +58,7 @@ constexpr int FirstLeavingPlace = 6; ///< from here on a place leaves the shell
 constexpr QSize PageSize(1124, 740);
 constexpr auto FirstPageDelay = 700ms; ///< the window is painted by then
 
+constexpr int ToolbarRadius = 25;
 constexpr int Layers = 4;
 constexpr int FirstLayerId = -2; ///< automatic ids of a button group run downward from here
 
@@ -94,7 +96,8 @@ FrameDeviceHolder::FrameDeviceHolder(QWidget *parent)
     buildToolbar();
     connectToolbar();
     connectConnection();
-    new WorkMeter(DialogDeviceConnect::instance()->workProgress(), ui->progressWork);
+    new WorkMeter(DialogDeviceConnect::instance()->workProgress(),
+                  new ProgressLine(ui->FrameToolbar, ToolbarRadius), ui->labelWork);
     notices = new ShellNotices(*DialogDeviceConnect::instance(), new NoticeBar(ui->FrameHoder));
     labels.at(HomePage)->setSelected(true);
     ui->horizontalFrame->hide();
@@ -269,11 +272,10 @@ void FrameDeviceHolder::openPairing()
 
 void FrameDeviceHolder::showName()
 {
-    // The profiles, the charge and the progress keep their room while they are hidden: the name doesn't jump.
+    // The profiles and the charge keep their room while they are hidden: the name doesn't jump.
     const int gap = ui->layoutToolbar->spacing();
     const QMargins margins = ui->layoutToolbar->contentsMargins();
-    int room = ui->FrameToolbar->minimumWidth() - margins.left() - margins.right() - 2 * gap -
-               ui->progressWork->minimumSizeHint().width();
+    int room = ui->FrameToolbar->minimumWidth() - margins.left() - margins.right() - 2 * gap;
     for (const QWidget *widget : std::initializer_list<QWidget *>{
              ui->labelConn, ui->labelBatt, ui->horizontalFrame, ui->pushButtonReset, ui->pushButtonFixline}) {
         widget->ensurePolished();

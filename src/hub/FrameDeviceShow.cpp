@@ -173,6 +173,10 @@ bool FrameDeviceShow::event(QEvent *event)
             return true;
         }
         break;
+    case QEvent::LanguageChange:
+        if (device)
+            showTrouble();
+        break;
     case QEvent::Paint: {
         const bool painted = QFrame::event(event);
         paintFocus();

@@ -1,8 +1,9 @@
 #include "WorkMeter.h"
 
-#include "ProgressBadge.h"
+#include "ProgressLine.h"
 
 #include <chrono>
+#include <QLabel>
 
 using namespace std::chrono_literals;
 
@@ -15,51 +16,63 @@ constexpr int FewestLeft = 4;
 
 } // namespace
 
-WorkMeter::WorkMeter(const WorkProgress &source, ProgressBadge *shown)
-    : QObject(shown)
+WorkMeter::WorkMeter(const WorkProgress &source, ProgressLine *shownLine, QLabel *shownCaption)
+    : QObject(shownLine)
     , progress(source)
-    , badge(shown)
+    , line(shownLine)
+    , caption(shownCaption)
 {
-    badge->hide();
     delayTimer.setSingleShot(true);
     delayTimer.setInterval(Unnoticed);
     hideTimer.setSingleShot(true);
     hideTimer.setInterval(FullTime);
     connect(&delayTimer, &QTimer::timeout, this, &WorkMeter::show);
-    connect(&hideTimer, &QTimer::timeout, badge, &QWidget::hide);
-    connect(&progress, &WorkProgress::begun, this, &WorkMeter::begin);
+    connect(&hideTimer, &QTimer::timeout, this, &WorkMeter::hide);
+    connect(&progress, &WorkProgress::begun, &delayTimer, qOverload<>(&QTimer::start));
     connect(&progress, &WorkProgress::advanced, this, &WorkMeter::show);
     connect(&progress, &WorkProgress::ended, this, &WorkMeter::end);
-}
-
-void WorkMeter::begin()
-{
-    delayTimer.start();
 }
 
 void WorkMeter::show()
 {
     if (delayTimer.isActive() || !progress.isRunning())
         return;
-    if (badge->isHidden() || hideTimer.isActive()) {
+    if (line->isHidden() || hideTimer.isActive()) {
         if (progress.left() < FewestLeft)
             return;
         hideTimer.stop();
-        badge->setCaption(progress.work() == WorkProgress::Work::Reading ? tr("正在读取键盘")
-                                                                         : tr("正在写入键盘"));
-        badge->show();
+        line->setAccessibleName(progress.work() == WorkProgress::Work::Reading ? tr("正在读取键盘")
+                                                                               : tr("正在写入键盘"));
+        line->show();
     }
-    badge->setRange(0, progress.total());
-    badge->setValue(progress.done());
+    showValue();
+}
+
+void WorkMeter::showValue()
+{
+    line->setRange(0, progress.total());
+    line->setValue(progress.done());
+    const QString percent = QStringLiteral("%1%").arg(100 * progress.done() / progress.total());
+    const QString words = line->accessibleName() + QLatin1Char(' ') + percent;
+    const auto fits = [this](const QString &text) {
+        return caption->fontMetrics().horizontalAdvance(text) <= caption->width();
+    };
+    caption->setText(fits(words) ? words : fits(percent) ? percent : QString());
 }
 
 void WorkMeter::end(WorkProgress::End how)
 {
     delayTimer.stop();
-    if (badge->isHidden())
+    if (line->isHidden())
         return;
     if (how == WorkProgress::End::Complete)
         hideTimer.start();
     else
-        badge->hide();
+        hide();
+}
+
+void WorkMeter::hide()
+{
+    line->hide();
+    caption->clear();
 }

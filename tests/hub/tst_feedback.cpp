@@ -5,7 +5,7 @@
 #include "FrameDeviceShow.h"
 #include "MessageBox.h"
 #include "NoticeBar.h"
-#include "ProgressBadge.h"
+#include "ProgressLine.h"
 #include "Scanner.h"
 
 #include <QAccessible>
@@ -45,7 +45,7 @@ private:
     virtualhid::DevicePtr keyboard;
     std::unique_ptr<FrameDeviceHolder> shell;
     DialogDeviceConnect *connection = nullptr;
-    ProgressBadge *badge = nullptr;
+    ProgressLine *line = nullptr;
     NoticeBar *notice = nullptr;
 };
 
@@ -66,7 +66,7 @@ void TestFeedback::openShell(const char *model)
     shell = std::make_unique<FrameDeviceHolder>();
     shell->show();
     connection = DialogDeviceConnect::instance();
-    badge = shell->findChild<ProgressBadge *>();
+    line = shell->findChild<ProgressLine *>();
     notice = shell->findChild<NoticeBar *>();
     connectKeyboard();
 }
@@ -91,19 +91,19 @@ void TestFeedback::longWorkShowsHowFarItIs()
 {
     openShell("wired-500");
     QList<int> shown;
-    connect(badge, &QProgressBar::valueChanged, this, [this, &shown](int value) {
-        if (badge->isVisible())
+    connect(line, &QProgressBar::valueChanged, this, [this, &shown](int value) {
+        if (line->isVisible())
             shown += value;
     });
-    QVERIFY(badge->isHidden() && notice->isHidden());
+    QVERIFY(line->isHidden() && notice->isHidden());
     QVERIFY(readWhole());
-    QCOMPARE(badge->maximum(), 99);
+    QCOMPARE(line->maximum(), 99);
     QVERIFY(shown.size() > 70 && std::is_sorted(shown.begin(), shown.end()));
     QCOMPARE(shown.last(), 99);
-    const auto *told = QAccessible::queryAccessibleInterface(badge);
+    const auto *told = QAccessible::queryAccessibleInterface(line);
     QCOMPARE(told->role(), QAccessible::ProgressBar);
     QCOMPARE(told->text(QAccessible::Name), QStringLiteral("正在读取键盘"));
-    QTRY_VERIFY(badge->isHidden());
+    QTRY_VERIFY(line->isHidden());
     const auto timers = shell->findChildren<QTimer *>();
     QVERIFY(std::none_of(timers.begin(), timers.end(), [](const QTimer *timer) {
         return timer->parent()->inherits("WorkMeter") && timer->isActive();
@@ -113,14 +113,14 @@ void TestFeedback::longWorkShowsHowFarItIs()
     for (int move = 0; move < 60; ++move) {
         connection->DoSetMagnetism(0, 4, quint32(100 + move), 1);
         QTest::qWait(10);
-        QVERIFY(badge->isHidden());
+        QVERIFY(line->isHidden());
     }
 
     connection->DoSetMacro(4, 1, 0, 0, QByteArray(3000, char(1)));
-    QTRY_VERIFY(badge->isVisible());
-    QCOMPARE(badge->accessibleName(), QStringLiteral("正在写入键盘"));
-    QTRY_VERIFY(badge->isHidden());
-    QCOMPARE(badge->value(), badge->maximum());
+    QTRY_VERIFY(line->isVisible());
+    QCOMPARE(line->accessibleName(), QStringLiteral("正在写入键盘"));
+    QTRY_VERIFY(line->isHidden());
+    QCOMPARE(line->value(), line->maximum());
 }
 
 void TestFeedback::lossInTheMiddleTakesTheProgressAway_data()
@@ -135,10 +135,10 @@ void TestFeedback::lossInTheMiddleTakesTheProgressAway()
     QFETCH(QByteArray, model);
     openShell(model.constData());
     connection->DoReadAll();
-    QTRY_VERIFY(badge->isVisible());
+    QTRY_VERIFY(line->isVisible());
     VirtualBus::instance().unplug(keyboard);
     connection->deviceChanged();
-    QTRY_VERIFY(badge->isHidden());
+    QTRY_VERIFY(line->isHidden());
     const auto says = [this](const char *text) {
         return notice->isVisible() && notice->accessibleName().startsWith(QString::fromUtf8(text));
     };
@@ -159,7 +159,7 @@ void TestFeedback::missingAnswerOffersAnotherRead()
     keyboard->faultAtFrame(30, Fault::lost());
     connection->DoReadAll();
     QTRY_VERIFY(notice->isVisible());
-    QVERIFY(connection->isReadingAll() && badge->isHidden());
+    QVERIFY(connection->isReadingAll() && line->isHidden());
     QSignalSpy done(connection, &DialogDeviceConnect::onReadDone);
     QTest::mouseClick(notice->findChild<QPushButton *>(), Qt::LeftButton);
     QVERIFY(notice->isHidden());

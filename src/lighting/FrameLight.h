@@ -12,6 +12,7 @@
 class DialogColorPicker;
 class DialogDeviceConnect;
 class LightWorksModel;
+class NoticeBar;
 class QButtonGroup;
 namespace Ui {
 class FrameLight;
@@ -53,6 +54,7 @@ private:
 
     void loadWorks();
     LightWork currentWork() const;
+    void keepWorks();
     void saveWork();
     void updateWork();
     void chooseWork(const QModelIndex &index);
@@ -62,6 +64,7 @@ private:
     QByteArray colourMap; ///< red, green and blue of each matrix position
     QColor currentColour{0, 220, 0};
     DialogColorPicker *picker = nullptr; ///< made at its first use
+    NoticeBar *notice = nullptr;         ///< made at its first use
     LightWorksModel *works;
     int selectedRow = -1; ///< the work that was chosen last, -1 for none
     QString worksFolder;

@@ -5,6 +5,7 @@
 #include "LightWorksModel.h"
 #include "Look.h"
 #include "MessageBox.h"
+#include "NoticeBar.h"
 #include "PictureDelegate.h"
 #include "PreviewPng.h"
 #include "ui_FrameLight.h"
@@ -108,12 +109,22 @@ LightWork FrameLight::currentWork() const
     return {previewPng(grabbedKeyboard()).toBase64(), ui->lineEditName->text().trimmed(), colourMap.toHex()};
 }
 
+/// Says so if it worked; a file that can't be written is a matter of the log.
+void FrameLight::keepWorks()
+{
+    if (!worksFile.save(works->works()))
+        return;
+    if (!notice)
+        notice = new NoticeBar(this);
+    notice->flash(tr("作品已保存"));
+}
+
 void FrameLight::saveWork()
 {
     grabBoard(ui->frameKeyboard);
     works->append(currentWork());
     ui->tableView->scrollToBottom();
-    worksFile.save(works->works());
+    keepWorks();
 }
 
 void FrameLight::updateWork()
@@ -122,7 +133,7 @@ void FrameLight::updateWork()
     if (selectedRow < 0)
         return;
     works->replace(selectedRow, currentWork());
-    worksFile.save(works->works());
+    keepWorks();
 }
 
 void FrameLight::chooseWork(const QModelIndex &index)

@@ -606,6 +606,10 @@ B</translation>
         <source>我的作品%1</source>
         <translation>Mein Design %1</translation>
     </message>
+    <message>
+        <source>作品已保存</source>
+        <translation>Design gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>

@@ -606,6 +606,10 @@ B</translation>
         <source>我的作品%1</source>
         <translation>My design %1</translation>
     </message>
+    <message>
+        <source>作品已保存</source>
+        <translation>Design saved</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>

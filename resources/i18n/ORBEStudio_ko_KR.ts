@@ -606,6 +606,10 @@ B</translation>
         <source>我的作品%1</source>
         <translation>내 작품 %1</translation>
     </message>
+    <message>
+        <source>作品已保存</source>
+        <translation>작품을 저장했습니다</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>

@@ -606,6 +606,10 @@ B</translation>
         <source>我的作品%1</source>
         <translation>ผลงานของฉัน %1</translation>
     </message>
+    <message>
+        <source>作品已保存</source>
+        <translation>บันทึกผลงานแล้ว</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>

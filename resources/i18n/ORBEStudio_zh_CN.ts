@@ -606,6 +606,10 @@ B</translation>
         <source>我的作品%1</source>
         <translation>我的作品%1</translation>
     </message>
+    <message>
+        <source>作品已保存</source>
+        <translation>作品已保存</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>

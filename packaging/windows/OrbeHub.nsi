@@ -5,7 +5,7 @@
 ; packaging/windows/build passes VERSION, STAGE (the laid out program), LISTS (folder of lay.nsh and delete.nsh, made
 ; of what is there), ICON, PANEL (a picture) and OUTPUT.
 ;
-;   setup /S [/D=folder]        installs silently; ends with 2 while the hub runs
+;   setup /S [/D=folder]        installs silently; ends with 2 while the hub runs, with 3 if the folder can't hold it
 ;   uninstall /S [/REMOVEDATA]  removes silently, on demand with macros, light works and settings
 Unicode true
 Target amd64-unicode
@@ -105,8 +105,9 @@ FunctionEnd
     ${EndIf}
 !macroend
 
-Section OrbeHub
+Section OrbeHub program
     Call waitUntilClosed
+    Call checkRoom
     ; What only the former version had goes with its own uninstaller; it works in place, so that it can be waited for.
     ${If} ${FileExists} "$INSTDIR\uninstall.exe"
         ExecWait '"$INSTDIR\uninstall.exe" /S /UPDATE _?=$INSTDIR' $0
@@ -133,6 +134,32 @@ Section OrbeHub
     WriteRegDWORD HKCU "${UNINSTALL_KEY}" NoModify 1
     WriteRegDWORD HKCU "${UNINSTALL_KEY}" NoRepair 1
 SectionEnd
+
+; Before anything is changed: a former version is not exchanged for half of a new one.
+Function checkRoom
+    ClearErrors
+    CreateDirectory "$INSTDIR"
+    FileOpen $0 "$INSTDIR\uninstall.new" w
+    IfErrors unfit
+    FileClose $0
+    Delete "$INSTDIR\uninstall.new"
+    SectionGetSize ${program} $0 ; KB
+    System::Call 'kernel32::GetDiskFreeSpaceExW(w "$INSTDIR", *l .r1, p 0, p 0) i .r2'
+    ${If} $2 = 0
+        Return
+    ${EndIf}
+    System::Int64Op $1 / 1024
+    Pop $1
+    System::Int64Op $1 < $0
+    Pop $2
+    IntCmp $2 0 fit
+    unfit:
+    RMDir "$INSTDIR" ; goes only if it is new
+    MessageBox MB_OK|MB_ICONSTOP "$(^CantWrite)$INSTDIR" /SD IDOK
+    SetErrorLevel 3
+    Quit
+    fit:
+FunctionEnd
 
 Section "un.OrbeHub"
     SectionIn RO

@@ -51,15 +51,10 @@ void TestAudio::level_data()
     QTest::addColumn<int>("level");
     QTest::newRow("silence") << 0.0F << 0;
     QTest::newRow("below a sixth") << 0.166F << 0;
-    QTest::newRow("the sign doesn't matter") << -0.5F << 3;
-    QTest::newRow("above five sixths") << 0.8334F << 5;
     QTest::newRow("full scale") << -1.0F << 6;
-    QTest::newRow("limited") << 1.5F << 6;
     QTest::newRow("254 is limited") << 42.4F << 6;
     QTest::newRow("255 is 0") << 42.5F << 0;
-    QTest::newRow("256 wraps") << 42.67F << 0;
     QTest::newRow("258 wraps to 2") << 43.0F << 2;
-    QTest::newRow("huge") << std::numeric_limits<float>::max() << 0;
     QTest::newRow("infinite") << -std::numeric_limits<float>::infinity() << 0;
     QTest::newRow("not a number") << std::numeric_limits<float>::quiet_NaN() << 0;
 }

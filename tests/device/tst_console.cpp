@@ -3,7 +3,7 @@
 #include "ConsoleLog.h"
 #include "KeyMatrix.h"
 
-#include <QHeaderView>
+#include <functional>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -16,18 +16,10 @@ class TestConsole : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tableShowsTheCatalogue();
+    void tableShowsTheCatalogueAndReplies();
     void editShowsTheCommandAndSendsNothing();
-    void clickTogglesTheLightSwitch();
-    void rowIsSent_data();
-    void rowIsSent();
-    void commandLineIsSent_data();
+    void clicksSendRowsAndToggleSwitches();
     void commandLineIsSent();
-    void writeWaitsForTheReadSequence();
-    void repliesStandInTheirRow();
-    void lightReplyStandsInTheSettingRow();
-    void logFormat_data();
-    void logFormat();
     void logShowsTheLastBurst();
     void savedMatrixBecomesTheDefault();
 
@@ -40,21 +32,23 @@ QPoint TestConsole::cell(QTableView *view, int row, int column)
     return view->visualRect(view->model()->index(row, column)).center();
 }
 
-void TestConsole::tableShowsTheCatalogue()
+void TestConsole::tableShowsTheCatalogueAndReplies()
 {
-    const CommandRows rows;
-    QCOMPARE(rows.rowCount(), 39);
-    QCOMPARE(rows.columnCount(), 10);
-    QCOMPARE(rows.horizontalHeaderItem(9)->text(), QStringLiteral("Byte7\nB"));
-    const int led = rows.rowOf(0x07);
-    QCOMPARE(rows.item(led, 0)->text(), QStringLiteral("CMD_SET_LEDPARAM"));
-    QCOMPARE(rows.rowBytes(led).toHex(), QByteArray("0701030307ffffff"));
-    QCOMPARE(rows.item(led, 1)->foreground().color(), QColor(Qt::red));
-    QVERIFY(rows.item(led, 0)->font().italic());
-    QCOMPARE(rows.item(0, 0)->foreground().color(), QColor(Qt::blue));
-    QVERIFY(!rows.item(0, 2)->isEditable());
-    QVERIFY(rows.item(0, 3)->isEditable());
-    QCOMPARE(rows.rowOf(0x0F), -1);
+    ConnectedKeyboard link("wired-2ff");
+    link.keyboard->edit([](sim::KeyboardState &state) { state.settings.debounce = 9; });
+    link.keyboard->faultOnCommand(0x87, virtualhid::Fault::reply({0x87, 5, 1, 2, 9, 10, 11, 12}));
+    const CommandRows *rows = link.connection.commandRows();
+    const int led = rows->rowOf(0x07);
+    QCOMPARE(rows->rowCount(), 39);
+    QCOMPARE(rows->item(led, 0)->text(), QStringLiteral("CMD_SET_LEDPARAM"));
+    QCOMPARE(rows->rowBytes(led).toHex(), QByteArray("0701030307ffffff"));
+    QCOMPARE(rows->rowOf(0x0F), -1);
+    QVERIFY(link.readAll());
+    QCOMPARE(rows->byte(rows->rowOf(0x86), 1), quint8(9));
+    QCOMPARE(rows->byte(rows->rowOf(0x06), 1), quint8(0));
+    // Effect, speed turned round, and brightness; the rest of the row goes out as it was.
+    QCOMPARE(rows->rowBytes(led).toHex(), QByteArray("0705030207ffffff"));
+    QCOMPARE(rows->rowBytes(rows->rowOf(0x87)).toHex(), QByteArray("87050102090a0b0c"));
 }
 
 void TestConsole::editShowsTheCommandAndSendsNothing()
@@ -72,128 +66,69 @@ void TestConsole::editShowsTheCommandAndSendsNothing()
     QCOMPARE(link.keyboard->frameCount(), size_t(0));
 }
 
-void TestConsole::clickTogglesTheLightSwitch()
+void TestConsole::clicksSendRowsAndToggleSwitches()
 {
-    ConnectedKeyboard link("wired-2ff");
-    link.connection.show();
-    auto *view = link.control<QTableView>("tableView");
-    CommandRows *rows = link.connection.commandRows();
-    const int row = rows->rowOf(0x05);
-    view->scrollTo(rows->index(row, 3));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, cell(view, row, 3));
-    QCOMPARE(rows->rowBytes(row).toHex(), QByteArray("0500010000000000"));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, cell(view, row, 0));
-    QCOMPARE(rows->rowBytes(row).toHex(), QByteArray("0500010000000000"));
-    QCOMPARE(link.control<QLineEdit>("lineEditCmd")->text(), QStringLiteral("05 00 01 00 00 00 00 00"));
-}
-
-void TestConsole::rowIsSent_data()
-{
-    QTest::addColumn<bool>("doubleClick");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("frames");
-    QTest::newRow("double-click on the command") << true << 2 << 1;
-    QTest::newRow("double-click on a byte opens its editor") << true << 3 << 0;
-    QTest::newRow("right-click on the name") << false << 0 << 1;
-    QTest::newRow("right-click on a byte") << false << 4 << 0;
-}
-
-void TestConsole::rowIsSent()
-{
-    QFETCH(bool, doubleClick);
-    QFETCH(int, column);
     ConnectedKeyboard link("wired-2ff");
     QVERIFY(link.readAll());
     link.connection.show();
-    link.keyboard->clearLog();
     auto *view = link.control<QTableView>("tableView");
-    const int row = link.connection.commandRows()->rowOf(0x06);
-    const QPoint at = cell(view, row, column);
-    if (doubleClick) {
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
-        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
-    } else {
-        Q_EMIT view->customContextMenuRequested(at);
-    }
-    QTEST(int(link.keyboard->frameCount()), "frames");
-}
+    const CommandRows *rows = link.connection.commandRows();
+    const int row = rows->rowOf(0x06);
+    const auto framesOf = [&link](const std::function<void()> &action) {
+        link.settle();
+        link.keyboard->clearLog();
+        action();
+        return link.keyboard->frameCount();
+    };
+    const auto doubleClick = [view](const QPoint &at) {
+        return [view, at] {
+            QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
+            QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
+        };
+    };
+    const auto rightClick = [view](const QPoint &at) {
+        return [view, at] { Q_EMIT view->customContextMenuRequested(at); };
+    };
+    QCOMPARE(framesOf(doubleClick(cell(view, row, 2))), size_t(1)); // the command
+    QCOMPARE(framesOf(doubleClick(cell(view, row, 3))), size_t(0)); // a byte, which is edited
+    QCOMPARE(framesOf(rightClick(cell(view, row, 0))), size_t(1));
+    QCOMPARE(framesOf(rightClick(cell(view, row, 4))), size_t(0));
 
-void TestConsole::commandLineIsSent_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QByteArray>("frame");
-    QTest::newRow("blanks around") << QStringLiteral("  86 ") << QByteArray("86 00 00 00 00 00 00 79");
-    QTest::newRow("wrong checksum is mended")
-        << QStringLiteral("8F 00 00 00 00 00 00 11") << QByteArray("8F 00 00 00 00 00 00 70");
-    QTest::newRow("partly hex") << QStringLiteral("86 zz") << QByteArray("86 00 00 00 00 00 00 79");
-    QTest::newRow("not hex") << QStringLiteral("zz") << QByteArray();
-    QTest::newRow("empty") << QString() << QByteArray();
+    const int light = rows->rowOf(0x05);
+    view->scrollTo(rows->index(light, 3));
+    for (const int column : {3, 0}) { // only the byte is a switch
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, cell(view, light, column));
+        QCOMPARE(rows->rowBytes(light).toHex(), QByteArray("0500010000000000"));
+    }
 }
 
 void TestConsole::commandLineIsSent()
 {
-    QFETCH(QString, text);
     ConnectedKeyboard link("wired-2ff");
     QVERIFY(link.readAll());
-    link.keyboard->clearLog();
-    link.control<QLineEdit>("lineEditCmd")->setText(text);
-    link.control<QPushButton>("pushButtonWrite")->click();
-    QTEST(link.frame(0), "frame");
-}
-
-void TestConsole::writeWaitsForTheReadSequence()
-{
-    ConnectedKeyboard link("wired-2ff");
-    QVERIFY(link.readAll());
+    const auto sent = [&link](const char *text) {
+        link.settle();
+        link.keyboard->clearLog();
+        link.control<QLineEdit>("lineEditCmd")->setText(QLatin1String(text));
+        link.control<QPushButton>("pushButtonWrite")->click();
+        return link.frame(0);
+    };
+    QCOMPARE(sent("  86 "), QByteArray("86 00 00 00 00 00 00 79"));
+    QCOMPARE(sent("8F 00 00 00 00 00 00 11"), QByteArray("8F 00 00 00 00 00 00 70")); // is mended
+    QCOMPARE(sent("86 zz"), QByteArray("86 00 00 00 00 00 00 79"));
+    QCOMPARE(sent("zz"), QByteArray());
+    QCOMPARE(sent(""), QByteArray());
     link.connection.DoReadAll();
     link.keyboard->clearLog();
-    const QString before = link.control<QLineEdit>("lineEditCmd")->text();
     link.control<QPushButton>("pushButtonWrite")->click();
-    link.connection.BuildRowCommand(link.connection.commandRows()->rowOf(0x01), true);
-    QCOMPARE(link.keyboard->frameCount(), size_t(0));
-    QCOMPARE(link.control<QLineEdit>("lineEditCmd")->text(), before);
-}
-
-void TestConsole::repliesStandInTheirRow()
-{
-    ConnectedKeyboard link("wired-2ff");
-    link.keyboard->edit([](sim::KeyboardState &state) { state.settings.debounce = 9; });
-    QVERIFY(link.readAll());
-    CommandRows *rows = link.connection.commandRows();
-    QCOMPARE(rows->byte(rows->rowOf(0x86), 1), quint8(9));
-    QCOMPARE(rows->byte(rows->rowOf(0x06), 1), quint8(0));
-}
-
-void TestConsole::lightReplyStandsInTheSettingRow()
-{
-    ConnectedKeyboard link("wired-2ff");
-    link.keyboard->faultOnCommand(0x87, virtualhid::Fault::reply({0x87, 5, 1, 2, 9, 10, 11, 12}));
-    QVERIFY(link.readAll());
-    CommandRows *rows = link.connection.commandRows();
-    // Effect, speed turned round, and brightness; the rest of the row goes out as it was.
-    QCOMPARE(rows->rowBytes(rows->rowOf(0x07)).toHex(), QByteArray("0705030207ffffff"));
-    QCOMPARE(rows->rowBytes(rows->rowOf(0x87)).toHex(), QByteArray("87050102090a0b0c"));
-}
-
-void TestConsole::logFormat_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("nothing") << QByteArray() << QString();
-    QTest::newRow("one") << QByteArray::fromHex("8f") << QStringLiteral("8F");
-    QTest::newRow("four") << QByteArray::fromHex("8f000102") << QStringLiteral("8F 00 01 02");
-    QTest::newRow("nine") << QByteArray::fromHex("8f0001020304050607")
-                          << QStringLiteral("8F 00 01 02  03 04 05 06  07");
-}
-
-void TestConsole::logFormat()
-{
-    QFETCH(QByteArray, bytes);
-    QTEST(ConsoleLog::format(bytes), "text");
+    QCOMPARE(link.keyboard->frameCount(), size_t(0)); // while the state is read
 }
 
 void TestConsole::logShowsTheLastBurst()
 {
+    QCOMPARE(ConsoleLog::format({}), QString());
+    QCOMPARE(ConsoleLog::format(QByteArray::fromHex("8f0001020304050607")),
+             QStringLiteral("8F 00 01 02  03 04 05 06  07"));
     QPlainTextEdit view;
     ConsoleLog log(&view);
     log.add("\x01", false);

@@ -10,7 +10,6 @@ class TestFraming : public QObject
 private Q_SLOTS:
     void commandIsClosedAndWrapped_data();
     void commandIsClosedAndWrapped();
-    void payloadIsNotCovered();
     void replyIsTakenOut_data();
     void replyIsTakenOut();
     void noticeIsToldFromReply();
@@ -24,10 +23,7 @@ void TestFraming::commandIsClosedAndWrapped_data()
         QTest::newRow(name) << QByteArray::fromHex(command) << QByteArray::fromHex(logical);
     };
     row("one byte becomes a whole frame", "8F", "8F00000000000070");
-    row("page read", "8A00FF0000000000", "8A00FF0000000076");
     row("lighting keeps its eighth byte", "0701030307FFFFFF", "0701030307FFFFFFED");
-    row("side light too", "0801030307FFFFFF", "0801030307FFFFFFEC");
-    row("key test", "1B01", "1B010000000000E3");
     row("magnet page", "E5FE0102", "E5FE010200000019");
     row("a byte at the checksum's place is lost", "06030000000000AA", "06030000000000F6");
 }
@@ -42,12 +38,6 @@ void TestFraming::commandIsClosedAndWrapped()
 
     QCOMPARE(framing::wrapWired(closed), QByteArray(1, '\0') + closed.first(64));
     QCOMPARE(framing::wrapWireless(closed), QByteArray::fromHex("0655") + closed.first(64));
-}
-
-void TestFraming::payloadIsNotCovered()
-{
-    const QByteArray plain = QByteArray::fromHex("6500000001000000");
-    QCOMPARE(framing::close(plain + QByteArray::fromHex("90010000")).at(7), framing::close(plain).at(7));
 }
 
 void TestFraming::replyIsTakenOut_data()

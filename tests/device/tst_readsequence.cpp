@@ -33,7 +33,6 @@ void TestReadSequence::firmwareDecidesTheTables_data()
     QTest::newRow("older than 3.00 has no magnetism tables")
         << QByteArray("wired-2ff") << quint16(0x2FF) << 47;
     QTest::newRow("3.00 has them") << QByteArray("wired-300") << quint16(0x300) << 99;
-    QTest::newRow("5.00 too") << QByteArray("wired-500") << quint16(0x500) << 99;
 }
 
 void TestReadSequence::firmwareDecidesTheTables()

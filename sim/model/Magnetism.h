@@ -16,7 +16,7 @@ struct MagnetTable
 
 constexpr Byte SensorTable = 0xFE; ///< live readings; can't be written
 
-constexpr std::array MagnetTables{
+inline constexpr std::array MagnetTables{
     MagnetTable{0x00, 2, 400}, // actuation travel, 0.005 mm
     MagnetTable{0x01, 2, 560}, // release travel
     MagnetTable{0x02, 2, 60},  // rapid trigger, press

@@ -32,7 +32,7 @@ struct ChannelInfo
     std::uint16_t feature;
 };
 
-constexpr std::array ChannelTable{
+inline constexpr std::array ChannelTable{
     ChannelInfo{Channel::BootKeyboard, "boot", 0x0001, 0x0006, 0x00, 8, 1, 0},
     ChannelInfo{Channel::KeyTest, "keytest", 0xFFFF, 0x0001, 0x05, 63, 0, 0},
     ChannelInfo{Channel::Command, "command", 0xFFFF, 0x0002, 0x00, 0, 0, 64},
@@ -75,15 +75,15 @@ struct Model
     constexpr std::span<const Channel> channelList() const { return {channels.data(), channelCount}; }
 };
 
-constexpr std::array UsbKeyboardChannels{Channel::BootKeyboard, Channel::KeyTest, Channel::Command};
-constexpr std::array BluetoothChannels{Channel::BootKeyboard, Channel::Bluetooth, Channel::Bluetooth};
+inline constexpr std::array UsbKeyboardChannels{Channel::BootKeyboard, Channel::KeyTest, Channel::Command};
+inline constexpr std::array BluetoothChannels{Channel::BootKeyboard, Channel::Bluetooth, Channel::Bluetooth};
 constexpr std::array<Channel, 3> onlyChannel(Channel channel)
 {
     return {channel, channel, channel};
 }
 
 /// Every device that the front ends can plug.
-constexpr std::array Models{
+inline constexpr std::array Models{
     Model{"wired-500", Kind::Keyboard, 0x3151, 0x502F, 0x0AF7, 0x0512, "Orbe Magnetic 68",
           UsbKeyboardChannels, 3},
     Model{"wired-300", Kind::Keyboard, 0x3151, 0x5030, 0x0EC3, 0x0308, "Orbe Magnetic 75",

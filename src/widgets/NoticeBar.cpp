@@ -33,7 +33,6 @@ NoticeBar::NoticeBar(QWidget *parent)
     , label(new QLabel(this))
     , button(new QPushButton(this))
 {
-    look::setStyleOnce(this, BarStyle);
     label->setTextFormat(Qt::PlainText);
     button->setCursor(Qt::PointingHandCursor);
     auto *layout = new QHBoxLayout(this);
@@ -71,6 +70,7 @@ void NoticeBar::dismiss()
 
 void NoticeBar::present(const QString &text, const QString &action)
 {
+    look::setStyleOnce(this, BarStyle); // not at construction: most never show
     label->setText(text);
     button->setText(action);
     button->setVisible(!action.isEmpty());

@@ -170,7 +170,7 @@ public:
     bool isConnected() const { return bool(commandHandle); }
     /// Why the last connect step left no connection, if the keyboard is on the bus; None if it is not, or if
     /// there is a connection.
-    OpenFailure openFailure() const { return failure; }
+    OpenFailure openFailure() const { return isConnected() ? OpenFailure::None : failure; }
     bool isReadingAll() const { return readingAll; }
     /// Whether the calibration's sensor pages are being asked for. Another question to the keyboard could put
     /// its answer among them.

@@ -6,6 +6,7 @@
 #include "ConsoleTable.h"
 #include "DeviceLog.h"
 #include "Framing.h"
+#include "IniFormat.h"
 #include "ReadSequence.h"
 #include "ui_DialogDeviceConnect.h"
 #include "WholeFile.h"
@@ -38,7 +39,7 @@ DialogDeviceConnect::DialogDeviceConnect(QWidget *parent)
     : QDialog(parent)
     , ui(std::make_unique<Ui::DialogDeviceConnect>())
     , settings(new QSettings(platform::workFolder(QStringLiteral("config")) + QStringLiteral("/device.ini"),
-                             QSettings::IniFormat, this))
+                             platform::iniFormat(), this))
 {
     theInstance = this;
     ui->setupUi(this);

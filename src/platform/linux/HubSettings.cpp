@@ -1,5 +1,6 @@
 #include "HubSettings.h"
 
+#include "IniFormat.h"
 #include "UserConfig.h"
 
 #include <QSettings>
@@ -17,8 +18,8 @@ QString settingsFile(const char *brand)
 
 QSettings &hubSettings(bool secondBrand)
 {
-    static QSettings first(settingsFile("Orbe"), QSettings::IniFormat);
-    static QSettings second(settingsFile("Tarnwick"), QSettings::IniFormat);
+    static QSettings first(settingsFile("Orbe"), iniFormat());
+    static QSettings second(settingsFile("Tarnwick"), iniFormat());
     return secondBrand ? second : first;
 }
 

@@ -326,7 +326,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>マクロ</translation>
+        <translation>マクロ </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -968,7 +968,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>マイデバイス</translation>
+        <translation>マイデバイス </translation>
     </message>
     <message>
         <source>提示</source>
@@ -1984,7 +1984,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>新規マクロ</translation>
+        <translation>新規マクロ </translation>
     </message>
 </context>
 <context>

@@ -326,7 +326,7 @@ B</translation>
     </message>
     <message>
         <source>宏</source>
-        <translation>매크로</translation>
+        <translation>매크로 </translation>
     </message>
     <message>
         <source>未录制的宏</source>
@@ -759,7 +759,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst 자석축</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>白泽轴</source>
@@ -968,7 +968,7 @@ B</translation>
     </message>
     <message>
         <source>我的设备</source>
-        <translation>내 장치</translation>
+        <translation>내 장치 </translation>
     </message>
     <message>
         <source>提示</source>
@@ -1984,7 +1984,7 @@ B</translation>
     <name>ModuleMacroManager</name>
     <message>
         <source>新建宏</source>
-        <translation>새 매크로</translation>
+        <translation>새 매크로 </translation>
     </message>
 </context>
 <context>
@@ -2162,7 +2162,7 @@ B</translation>
     </message>
     <message>
         <source>星芒磁轴</source>
-        <translation>Starburst 자석축</translation>
+        <translation>Starburst</translation>
     </message>
     <message>
         <source>磁玉</source>

@@ -13,7 +13,9 @@ need_packages() { # package ...
     [ ${#missing[@]} -gt 0 ] || return 0
     command -v apt-get >/dev/null || die "no apt-get here; install these by hand: ${missing[*]}"
     say "installing ${missing[*]}"
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" >/dev/null ||
+    local install=(env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}")
+    # The second time with fresh lists: a machine may have none, or old ones.
+    as_root "${install[@]}" >/dev/null 2>&1 || { as_root apt-get update >/dev/null && as_root "${install[@]}" >/dev/null; } ||
         die "can't install ${missing[*]}"
 }
 

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -13,8 +12,6 @@
 using platform::WholeFile;
 
 namespace {
-
-constexpr qsizetype ContentSize = 3'000'000;
 
 void put(const QString &path, const QByteArray &content)
 {
@@ -29,16 +26,6 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Writes for ever; the test kills it.
-int writeWithoutEnd(const QString &path)
-{
-    WholeFile file(path);
-    for (char letter = 'a';; letter = letter == 'z' ? 'a' : char(letter + 1)) {
-        if (!file.write(QByteArray(ContentSize, letter)))
-            return 1;
-    }
-}
-
 } // namespace
 
 /// Files that hold a user's work.
@@ -47,34 +34,11 @@ class TestWholeFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void killLosesNothing();
     void keepsWhatWasNotUnderstood();
     void heldTarget();
     void leavesCopiesOfTheUser();
     void placeOfWork();
 };
-
-void TestWholeFile::killLosesNothing()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("work.txt"));
-    QVERIFY(WholeFile(path).write(QByteArray(ContentSize, 'A')));
-    for (int kill = 0; kill < 12; ++kill) {
-        QProcess writer;
-        writer.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--write"), path});
-        QVERIFY(writer.waitForStarted());
-        const QByteArray before = contentOf(path);
-        QTRY_VERIFY(contentOf(path) != before); // it is at work, somewhere in the next write
-        QVERIFY(!writer.waitForFinished(kill));
-        writer.kill();
-        QVERIFY(writer.waitForFinished());
-        const QByteArray after = contentOf(path);
-        QCOMPARE(after.size(), ContentSize);
-        QCOMPARE(after.count(after.at(0)), ContentSize);
-    }
-    platform::removeLeftovers(folder.path(), {QStringLiteral("work.txt")});
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("work.txt")});
-}
 
 void TestWholeFile::keepsWhatWasNotUnderstood()
 {
@@ -126,7 +90,8 @@ void TestWholeFile::leavesCopiesOfTheUser()
 void TestWholeFile::placeOfWork()
 {
     QStandardPaths::setTestModeEnabled(true);
-    const QString name = QStringLiteral("placeofwork");
+    // Two runs of this test may meet in these folders.
+    const QString name = QStringLiteral("placeofwork%1").arg(QCoreApplication::applicationPid());
     const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/') + name;
     QDir(beside).removeRecursively();
     QCOMPARE(platform::workFolder(name), beside);
@@ -142,14 +107,5 @@ void TestWholeFile::placeOfWork()
     QVERIFY(QFile::remove(beside));
 }
 
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == QLatin1String("--write"))
-        return writeWithoutEnd(arguments.value(2));
-    TestWholeFile test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TestWholeFile)
 #include "tst_wholefile.moc"

@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 #include <QPainter>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QRadialGradient>
 #include <QStyle>
 #include <QStyleOption>
@@ -30,13 +31,24 @@ void paintStyledBackground(QWidget *widget)
 
 QPixmap picture(const QString &path, const QWidget *on)
 {
+    const qreal ratio = on ? on->devicePixelRatioF() : 1.0;
+    const QString key = QStringLiteral("look::picture %1 %2").arg(ratio).arg(path);
+    QPixmap found;
+    // A file may be another one later, so only what is built into the program is remembered.
+    const bool isBuiltIn = path.startsWith(u':');
+    if (isBuiltIn && QPixmapCache::find(key, &found))
+        return found;
     const QPixmap plain(path);
     if (plain.isNull()) {
         qCWarning(lcWidgets) << "no picture at" << path;
         return plain;
     }
-    // An icon looks for the @2x file by itself and scales it smoothly to a factor between the two.
-    return QIcon(path).pixmap(plain.deviceIndependentSize().toSize(), on ? on->devicePixelRatioF() : 1.0);
+    // An icon looks for the @2x file by itself and scales it smoothly to a factor between the two. Every new
+    // icon leaves its own copy in Qt's cache.
+    found = QIcon(path).pixmap(plain.deviceIndependentSize().toSize(), ratio);
+    if (isBuiltIn)
+        QPixmapCache::insert(key, found);
+    return found;
 }
 
 QFont sized(const QFont &font, int pixelSize, int weight)

@@ -1,6 +1,7 @@
 #include "AppStart.h"
 
 #include "ConsoleCodePage.h"
+#include "Look.h"
 #include "MainWindow.h"
 #include "Siblings.h"
 
@@ -19,15 +20,17 @@ constexpr std::array Fonts{"MiSans-Bold.ttf",   "MiSans-Demibold.ttf", "MiSans-E
                            "MiSans-Thin.ttf"};
 
 /// The style that every widget starts from.
-const QString ApplicationStyle =
-    QStringLiteral("* { font-family: MiSans,MiSans;}"
-                   "QLabel { font-size: 14px; font-weight: 400 ;}"
-                   "QLabel:disabled { color: #B3B3B3; }"
-                   "QLineEdit { border: 1px solid #D0D0D0; background-color: #EDEDED; border-radius: 6px;"
-                   " min-height: 20px; color: black; font-size: 14px; padding: 4px 8px;"
-                   " selection-background-color: #6329B6; selection-color: white; }"
-                   "QLineEdit:focus { border-color: #A17FD3; }"
-                   "QLineEdit:disabled { color: #B3B3B3; }");
+const QString ApplicationStyle = look::sheet(QStringLiteral(
+    "* { font-family: MiSans,MiSans;}"
+    "QLabel { font-size: @body; font-weight: 400 ;}"
+    "QLabel:disabled { color: @disabled; }"
+    "QLineEdit { border: 1px solid #D0D0D0; background-color: @edit; border-radius: @editRadius;"
+    " min-height: 20px; color: black; font-size: @body; padding: 4px 8px;"
+    " selection-background-color: @accent; selection-color: white; }"
+    "QLineEdit:focus { border-color: @focusLine; }"
+    "QLineEdit:disabled { color: @disabled; }"
+    "QToolTip { border: 1px solid @controlLine; background-color: white; color: @text;"
+    " font-size: @note; padding: 4px 6px; }"));
 
 /// The first of the user's languages that has a translation; with none the texts stay as they are in the
 /// source.

@@ -22,10 +22,10 @@ enum SleepSlot { BluetoothLight, WirelessLight, BluetoothDeep, WirelessDeep };
 
 enum RowNumber : size_t { WirelessSleepRow, BluetoothSleepRow, DebounceRow };
 
-const QString PanelStyle = QStringLiteral(
-    "#frameOption1, #frameOption2, #frameOption3 { background-color: #F6F6F6; border-radius: 16px; }"
-    "QLabel { color: #222222; font-size: 15px; font-weight: 600; background: transparent; }"
-    "#labelUnit1, #labelUnit2 { color: #6B6B75; font-size: 14px; font-weight: 400; }");
+const QString PanelStyle = look::sheet(QStringLiteral(
+    "#frameOption1, #frameOption2, #frameOption3 { background-color: @panel; border-radius: 16px; }"
+    "QLabel { color: @text; font-size: @groupTitle; font-weight: 600; background: transparent; }"
+    "#labelUnit1, #labelUnit2 { color: @secondary; font-size: @body; font-weight: 400; }"));
 
 QStringList rateTexts()
 {

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr qreal Narrowest = 0.74; ///< of a text's own width
-constexpr int Margin = 6;         ///< on both sides of the text, in pixels
+constexpr qreal Narrowest = 0.72; ///< of a text's own width
+constexpr int Margin = 4;         ///< on both sides of the text, in pixels
 
 } // namespace
 

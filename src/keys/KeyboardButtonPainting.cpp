@@ -21,7 +21,6 @@ constexpr int PastMiddle = 4;         ///< from the middle of the key to where t
 constexpr qreal CaptionTracking = 96; ///< per cent of a character's width
 constexpr qreal FillRadius = 14;
 constexpr int FillAlpha = 160;
-constexpr int LightFill = 170; ///< from this lightness on, a white legend can't be read
 
 /// The two sides of a value, and their lighter tones for a key that is dark because it is selected.
 constexpr QColor First{0xC8, 0x00, 0xC0};
@@ -126,9 +125,9 @@ void KeyboardButton::paintFilled(QPainter &painter) const
     const QRectF cap = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawPath(keystyle::outline(cap, shapeOf(keyCode), FillRadius));
     // The panel shines through the fill, which makes every colour lighter than it is.
-    const int lightness =
-        (qGray(fill.rgb()) * FillAlpha + qGray(look::Panel.rgb()) * (255 - FillAlpha)) / 255;
-    paintLegend(painter, lightness >= LightFill ? look::Text : QColor(Qt::white));
+    const QColor seen = look::laidOver(paint, look::Panel);
+    const bool white = look::contrast(Qt::white, seen) >= look::LeastContrast;
+    paintLegend(painter, white ? QColor(Qt::white) : look::Text);
 }
 
 void KeyboardButton::paintLegend(QPainter &painter, const QColor &color) const

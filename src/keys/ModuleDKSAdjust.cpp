@@ -13,22 +13,23 @@ constexpr int InitialTravel = 700; ///< thousandths of a millimetre
 constexpr QSize PopupSize(206, 304);
 constexpr double Thousandths = 1000.0;
 
-const QString AdjustStyle = QStringLiteral(
-    "QFrame#DKSAdjust{background-color:#F6F6F6; border-radius:20px; min-width:200px; "
+const QString AdjustStyle = look::sheet(QStringLiteral(
+    "QFrame#DKSAdjust{background-color:@panel; border-radius:@cardRadius; min-width:200px; "
     "min-height:240px;margin:20px;}"
-    "#labelTitleS1 { color: #222222; font-size: 15px; font-weight: 600; }"
-    "QLineEdit { border-color: #EDEDED; }"
-    "QLineEdit:focus { border-color: #A17FD3; }"
-    "QPushButton { border: none; font-size: 14px; }"
-    "#pushButtonM1, #pushButtonP1 { background-color: white; border: 1px solid #E0E0E4; border-radius: 15px;"
-    " color: #222222; font-size: 16px; }"
-    "#pushButtonM1:hover, #pushButtonP1:hover { border-color: #D8BDFF; background-color: #FAF7FF; }"
-    "#pushButtonM1:pressed, #pushButtonP1:pressed { background-color: #F0E8FB; }"
+    "#labelTitleS1 { color: @text; font-size: @groupTitle; font-weight: 600; }"
+    "QLineEdit { border-color: @edit; }"
+    "QLineEdit:focus { border-color: @focusLine; }"
+    "QPushButton { border: none; font-size: @body; }"
+    "#pushButtonM1, #pushButtonP1 { background-color: white; border: 1px solid @controlLine; border-radius: "
+    "15px;"
+    " color: @text; font-size: @sign; }"
+    "#pushButtonM1:hover, #pushButtonP1:hover { border-color: @tintLine; background-color: @tint; }"
+    "#pushButtonM1:pressed, #pushButtonP1:pressed { background-color: @tintPressed; }"
     "#pushButtonCancel { background-color: transparent; border-radius: 14px; }"
-    "#pushButtonCancel:hover { background-color: #E6E6EA; }"
-    "#pushButtonOK { background-color: #6329B6; color: white; border-radius: 16px; padding: 0px 12px; }"
-    "#pushButtonOK:hover { background-color: #7440C0; }"
-    "#pushButtonOK:pressed { background-color: #52209A; }");
+    "#pushButtonCancel:hover { background-color: @line; }"
+    "#pushButtonOK { background-color: @accent; color: white; border-radius: 16px; padding: 0px 12px; }"
+    "#pushButtonOK:hover { background-color: @accentHover; }"
+    "#pushButtonOK:pressed { background-color: @accentPressed; }"));
 
 QString travelText(int thousandths)
 {

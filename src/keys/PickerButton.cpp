@@ -20,7 +20,6 @@ constexpr int LineGap = 4;
 constexpr int CaptionSize = 12;
 constexpr int LongestSign = 3; ///< characters
 constexpr int Margin = 2;
-constexpr QColor PressedBackground{0x52, 0x20, 0x9A};
 
 /// A legend as it is printed on a cap, in one line or two.
 struct Legend
@@ -133,7 +132,7 @@ void PickerButton::paintCap(QPainter &painter, const QRectF &cap) const
     if (!isEnabled()) {
         colors = {look::KeyDisabled, look::KeyDisabled, keystyle::DisabledText};
     } else if (isDown()) {
-        colors = {PressedBackground, PressedBackground, look::OnAccent};
+        colors = {look::AccentPressed, look::AccentPressed, look::OnAccent};
     } else if (isChecked() || isMarked || (face == Face::Tile && underMouse())) {
         colors = {look::Accent, look::Accent, look::OnAccent};
     } else if (underMouse()) {
@@ -197,8 +196,9 @@ void PickerButton::paintTile(QPainter &painter)
 
     painter.setFont(look::sized(font(), CaptionSize, QFont::Normal));
     painter.setPen(isActive() ? look::Accent : look::TextSecondary);
-    const QRect place(look::Space4, top + PictureSize + look::Space8, width() - 2 * look::Space4,
-                      2 * CaptionLine);
+    const int captionTop = top + PictureSize + look::Space8;
+    const QRect place(look::Space4, captionTop, width() - 2 * look::Space4,
+                      height() - look::Space4 - captionTop);
     painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
                      caption.isEmpty() ? text() : caption);
 }

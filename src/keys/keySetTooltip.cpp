@@ -22,9 +22,10 @@ QLabel *addLabel(QVBoxLayout *layout, int weight)
     auto *label = new QLabel(layout->parentWidget());
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
-    look::setStyleOnce(label, QStringLiteral("QLabel { background: transparent; border: none; color: black;"
-                                             " font-size: 13px; font-weight: %1; }")
-                                  .arg(weight));
+    look::setStyleOnce(
+        label, look::sheet(QStringLiteral("QLabel { background: transparent; border: none; color: black;"
+                                          " font-size: @note; font-weight: %1; }"))
+                   .arg(weight));
     layout->addWidget(label);
     return label;
 }

@@ -11,21 +11,21 @@ namespace calibrationstyle {
 namespace {
 
 const QString Box =
-    QStringLiteral("#%1 { background-color: white; border-radius: 20px; }"
-                   "QLabel { background: transparent; color: #6B6B75; }"
-                   "QLabel#labelTitle { color: #222222; font-size: 18px; font-weight: 600; }");
+    look::sheet(QStringLiteral("#%1 { background-color: white; border-radius: @cardRadius; }"
+                               "QLabel { background: transparent; color: @secondary; }"
+                               "QLabel#labelTitle { color: @text; font-size: @section; font-weight: 600; }"));
 
-const QString PlainButton = QStringLiteral(
-    "QPushButton { border: 1px solid #E0E0E4; border-radius: 18px; background-color: transparent;"
-    " color: #222222; font-size: 14px; padding: 0px 20px; }"
-    "QPushButton:hover { border-color: #D8BDFF; background-color: #FAF7FF; }"
-    "QPushButton:pressed { background-color: #F0E8FB; }");
+const QString PlainButton = look::sheet(QStringLiteral(
+    "QPushButton { border: 1px solid @controlLine; border-radius: 18px; background-color: transparent;"
+    " color: @text; font-size: @body; padding: 0px 20px; }"
+    "QPushButton:hover { border-color: @tintLine; background-color: @tint; }"
+    "QPushButton:pressed { background-color: @tintPressed; }"));
 
 const QString MainButton =
-    QStringLiteral("QPushButton { border: none; border-radius: 18px; background-color: #6329B6;"
-                   " color: white; font-size: 14px; padding: 0px 20px; }"
-                   "QPushButton:hover { background-color: #7440C0; }"
-                   "QPushButton:pressed { background-color: #52209A; }");
+    look::sheet(QStringLiteral("QPushButton { border: none; border-radius: 18px; background-color: @accent;"
+                               " color: white; font-size: @body; padding: 0px 20px; }"
+                               "QPushButton:hover { background-color: @accentHover; }"
+                               "QPushButton:pressed { background-color: @accentPressed; }"));
 
 } // namespace
 

@@ -14,9 +14,9 @@ namespace {
 constexpr quint8 AllKeys = 0xFF;
 constexpr quint8 Commit = 1;
 
-const QString Style =
-    QStringLiteral("#frameInfo, #frameLinear { background-color: #F6F6F6; border-radius: 24px; }"
-                   "#frameLinear #labelTitle1 { color: #222222; font-size: 15px; font-weight: 600; }");
+const QString Style = look::sheet(
+    QStringLiteral("#frameInfo, #frameLinear { background-color: @panel; border-radius: @panelRadius; }"
+                   "#frameLinear #labelTitle1 { color: @text; font-size: @groupTitle; font-weight: 600; }"));
 
 /// The picture in the largest size that fits into the room, at most its own.
 QPixmap fitted(const QPixmap &picture, const QSize &room, qreal scale)

@@ -18,23 +18,23 @@ constexpr int NameWidth = 42;
 constexpr int LongNameWidth = 80;
 constexpr int LongNameLength = 4;
 
-const QString NameStyle =
-    QStringLiteral("QLabel{border:2px solid blue; border-radius:6px; width:30px; height:30px;}");
+const QString NameStyle = look::sheet(
+    QStringLiteral("QLabel{border:2px solid blue; border-radius:@editRadius; width:30px; height:30px;}"));
 
 // The card of the key test has the focus while keys are tested.
-const QString PageStyle = QStringLiteral(
+const QString PageStyle = look::sheet(QStringLiteral(
     "#cardKeyTest { border: 2px solid white; }"
-    "#cardKeyTest:focus { border-color: #C1A9E2; }"
-    "QScrollArea { border: none; border-radius: 10px; background-color: #F6F6F6; padding: 4px; }"
+    "#cardKeyTest:focus { border-color: @focusLine; }"
+    "QScrollArea { border: none; border-radius: @keyRadius; background-color: @panel; padding: 4px; }"
     "QAbstractScrollArea::corner, #scrollAreaWidgetContents0, #scrollAreaWidgetContents1"
     " { border: none; background: transparent; }"
-    "#labelHint, #scrollAreaWidgetContents0 QLabel, #scrollAreaWidgetContents1 QLabel { font-size: 12px; }"
+    "#labelHint, #scrollAreaWidgetContents0 QLabel, #scrollAreaWidgetContents1 QLabel { font-size: @small; }"
     "QScrollBar:vertical { width: 8px; background: transparent; margin: 0px; }"
     "QScrollBar:horizontal { height: 8px; background: transparent; margin: 0px; }"
-    "QScrollBar::handle { min-width: 32px; min-height: 32px; border-radius: 4px; background-color: #D0D0D6; }"
-    "QScrollBar::handle:hover { background-color: #B0B0B8; }"
+    "QScrollBar::handle { min-width: 32px; min-height: 32px; border-radius: 4px; background-color: @scroll; }"
+    "QScrollBar::handle:hover { background-color: @tickLine; }"
     "QScrollBar::add-line, QScrollBar::sub-line { width: 0px; height: 0px; }"
-    "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }");
+    "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"));
 
 /// What a key is called: by what it types, or by its place on the keyboard if that can't be read.
 QString nameOf(const QKeyEvent &event)

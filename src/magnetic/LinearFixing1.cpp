@@ -13,8 +13,8 @@
 
 namespace {
 
-const QString Backdrop =
-    QStringLiteral("LinearFixing1 { background-color: rgba(120, 120, 120, 0.8); border-radius: 20px; }");
+const QString Backdrop = look::sheet(QStringLiteral(
+    "LinearFixing1 { background-color: rgba(120, 120, 120, 0.8); border-radius: @cardRadius; }"));
 
 constexpr std::array TextSizes{look::BodySize, 13, 12, 11}; ///< the largest that the box has room for
 

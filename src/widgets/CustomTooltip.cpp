@@ -17,9 +17,9 @@ constexpr int LongestLine = 260;
 constexpr int CornerRadius = 8;
 
 /// Stands on the label itself, so that no style of the widget that shows the bubble reaches into it.
-const QString TextStyle =
+const QString TextStyle = look::sheet(
     QStringLiteral("QLabel { background: transparent; border: none; border-radius: 0px; padding: 0px;"
-                   " color: #222222; font-size: 13px; font-weight: 400; }");
+                   " color: @text; font-size: @note; font-weight: 400; }"));
 
 } // namespace
 

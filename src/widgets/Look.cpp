@@ -1,5 +1,8 @@
 #include "Look.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
 #include <QFont>
 #include <QIcon>
 #include <QLoggingCategory>
@@ -13,7 +16,77 @@
 
 Q_LOGGING_CATEGORY(lcWidgets, "orbe.widgets")
 
+namespace {
+
+/// A name that style sheets use, for a colour or a length in pixels.
+struct Term
+{
+    const char *name;
+    QColor color;
+    int pixels = 0;
+};
+
+constexpr std::array Terms{
+    Term{"accent", look::Accent},
+    Term{"accentHover", look::AccentHover},
+    Term{"accentPressed", look::AccentPressed},
+    Term{"panel", look::Panel},
+    Term{"edit", look::Edit},
+    Term{"line", look::Line},
+    Term{"controlLine", look::ControlLine},
+    Term{"tickLine", look::TickLine},
+    Term{"focusLine", look::FocusLine},
+    Term{"tint", look::Tint},
+    Term{"tintLine", look::TintLine},
+    Term{"tintPressed", look::TintPressed},
+    Term{"scroll", look::Scroll},
+    Term{"key", look::KeyPlain},
+    Term{"text", look::Text},
+    Term{"secondary", look::TextSecondary},
+    Term{"disabled", look::TextDisabled},
+    Term{"pressSide", look::PressSide},
+    Term{"panelRadius", {}, look::PanelRadius},
+    Term{"cardRadius", {}, look::InnerCardRadius},
+    Term{"keyRadius", {}, look::KeyRadius},
+    Term{"editRadius", {}, look::EditRadius},
+    Term{"pageTitle", {}, look::PageTitleSize},
+    Term{"section", {}, look::SectionSize},
+    Term{"sign", {}, look::SignSize},
+    Term{"groupTitle", {}, look::GroupTitleSize},
+    Term{"body", {}, look::BodySize},
+    Term{"note", {}, look::NoteSize},
+    Term{"small", {}, look::SmallSize},
+};
+
+} // namespace
+
 namespace look {
+
+QString sheet(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    qsizetype from = 0;
+    for (qsizetype at = text.indexOf(u'@'); at >= 0; at = text.indexOf(u'@', from)) {
+        qsizetype end = at + 1;
+        while (end < text.size() && text.at(end).isLetter())
+            ++end;
+        const QStringView name = QStringView(text).sliced(at + 1, end - at - 1);
+        const auto *term = std::find_if(Terms.begin(), Terms.end(), [name](const Term &known) {
+            return name == QLatin1String(known.name);
+        });
+        result += QStringView(text).sliced(from, at - from);
+        if (term == Terms.end()) {
+            qCWarning(lcWidgets) << "no such name in the look:" << name;
+            result += QStringView(text).sliced(at, end - at);
+        } else {
+            result += term->color.isValid() ? term->color.name()
+                                            : QString::number(term->pixels) + QLatin1String("px");
+        }
+        from = end;
+    }
+    return result += QStringView(text).sliced(from);
+}
 
 void setStyleOnce(QWidget *widget, const QString &style)
 {
@@ -49,6 +122,32 @@ QPixmap picture(const QString &path, const QWidget *on)
     if (isBuiltIn)
         QPixmapCache::insert(key, found);
     return found;
+}
+
+namespace {
+
+qreal luminance(const QColor &color)
+{
+    const auto linear = [](float channel) {
+        return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+} // namespace
+
+qreal contrast(const QColor &one, const QColor &other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+QColor laidOver(const QColor &color, const QColor &ground)
+{
+    const float alpha = color.alphaF();
+    const auto mix = [alpha](float over, float under) { return over * alpha + under * (1 - alpha); };
+    return QColor::fromRgbF(mix(color.redF(), ground.redF()), mix(color.greenF(), ground.greenF()),
+                            mix(color.blueF(), ground.blueF()));
 }
 
 QFont sized(const QFont &font, int pixelSize, int weight)

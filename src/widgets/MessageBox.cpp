@@ -15,17 +15,17 @@ constexpr int TitleTop = 22;
 constexpr int TitleHeight = 28;
 constexpr int TextTop = 66;
 
-const QString BoxStyle = QStringLiteral(
-    "QLabel { color: #222222; font-size: 14px; }"
+const QString BoxStyle = look::sheet(QStringLiteral(
+    "QLabel { color: @text; font-size: @body; }"
     "QLabel#qt_msgbox_label { min-width: 340px; min-height: 40px; }"
-    "QLabel#labelTitle { font-size: 18px; font-weight: 600; }"
+    "QLabel#labelTitle { font-size: @section; font-weight: 600; }"
     "QPushButton { min-width: 92px; min-height: 34px; border: none; border-radius: 17px; padding: 0px 4px;"
-    " background-color: #EDEDED; color: #222222; font-size: 14px; }"
-    "QPushButton:hover { background-color: #E0E0E4; }"
+    " background-color: @edit; color: @text; font-size: @body; }"
+    "QPushButton:hover { background-color: @controlLine; }"
     "QPushButton:pressed { background-color: #D4D4DA; }"
-    "QPushButton:default { background-color: #6329B6; color: white; }"
-    "QPushButton:default:hover { background-color: #7440C0; }"
-    "QPushButton:default:pressed { background-color: #52209A; }");
+    "QPushButton:default { background-color: @accent; color: white; }"
+    "QPushButton:default:hover { background-color: @accentHover; }"
+    "QPushButton:default:pressed { background-color: @accentPressed; }"));
 
 /// Lies over a window, in the window's own shape.
 class Veil : public QWidget

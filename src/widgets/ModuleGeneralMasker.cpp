@@ -10,8 +10,8 @@
 
 namespace {
 
-const QString MaskStyle = QStringLiteral(
-    "QDialog { background-color: rgba(180, 180, 180, 0.8);  border: none; border-radius: 24px;}");
+const QString MaskStyle = look::sheet(QStringLiteral(
+    "QDialog { background-color: rgba(180, 180, 180, 0.8);  border: none; border-radius: @panelRadius;}"));
 
 /// Where the mask lies, in global coordinates.
 QRect maskRect(const QWidget *frameWidget)

@@ -17,17 +17,17 @@ constexpr int Slots = 5;
 constexpr int CentreSlot = 2;
 constexpr qint64 StartTurns = 1'000'000'000; // far from 0, so that turning back has room
 
-const QString WheelStyle = QStringLiteral(
+const QString WheelStyle = look::sheet(QStringLiteral(
     "QLabel { background: transparent; border: none; font-weight: 400; }"
-    "#labelValue1, #labelValue5 { font-size: 12px; }"
-    "#labelValue1:enabled, #labelValue5:enabled { color: rgba(107, 107, 117, 0.7); }"
-    "#labelTitleL2, #labelTitleL1 { font-size: 14px; }"
-    "#labelTitleL2:enabled, #labelTitleL1:enabled { color: #6B6B75; }"
-    "#labelTitle1 { font-size: 18px; font-weight: 600; }"
-    "#labelTitle1:enabled { color: #222222; }"
-    "#labelValue1:hover, #labelTitleL2:hover, #labelTitleL1:hover, #labelValue5:hover { color: #6329B6; }"
-    "#labelLine1, #labelLine2 { background-color: #E6E6EA; }"
-    "QLabel:disabled { color: #B3B3B3; }");
+    "#labelValue1, #labelValue5 { font-size: @small; }"
+    "#labelValue1:enabled, #labelValue5:enabled { color: @secondary; }"
+    "#labelTitleL2, #labelTitleL1 { font-size: @body; }"
+    "#labelTitleL2:enabled, #labelTitleL1:enabled { color: @secondary; }"
+    "#labelTitle1 { font-size: @section; font-weight: 600; }"
+    "#labelTitle1:enabled { color: @text; }"
+    "#labelValue1:hover, #labelTitleL2:hover, #labelTitleL1:hover, #labelValue5:hover { color: @accent; }"
+    "#labelLine1, #labelLine2 { background-color: @line; }"
+    "QLabel:disabled { color: @disabled; }"));
 
 std::array<QLabel *, Slots> slotLabels(const Ui::ModuleScrollValue &ui)
 {

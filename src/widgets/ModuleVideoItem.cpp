@@ -7,16 +7,16 @@
 #include <QEvent>
 
 namespace {
-const QString CardStyle =
-    QStringLiteral("#ModuleVideoItem { background-color: white; border: 1px solid #E6E6EA;"
-                   " border-radius: 20px; }"
+const QString CardStyle = look::sheet(
+    QStringLiteral("#ModuleVideoItem { background-color: white; border: 1px solid @line;"
+                   " border-radius: @cardRadius; }"
                    "QLabel { background: transparent; border: none; }"
                    "#labelMovie { background-color: #F4F4F4; border-radius: 12px;"
-                   " color: #B3B3B3; font-size: 20px; font-weight: 600; }"
-                   "#labelTitle { color: #222222; font-size: 15px; font-weight: 600; }"
-                   "#labelDate { color: #6B6B75; font-size: 12px; }"
-                   "#labelDuration { background-color: #EDEDED; border-radius: 10px; padding: 0px 8px;"
-                   " color: #6B6B75; font-size: 12px; }");
+                   " color: @disabled; font-size: @pageTitle; font-weight: 600; }"
+                   "#labelTitle { color: @text; font-size: @groupTitle; font-weight: 600; }"
+                   "#labelDate { color: @secondary; font-size: @small; }"
+                   "#labelDuration { background-color: @edit; border-radius: @keyRadius; padding: 0px 8px;"
+                   " color: @secondary; font-size: @small; }"));
 } // namespace
 
 ModuleVideoItem::ModuleVideoItem(QWidget *parent)

@@ -17,14 +17,14 @@ constexpr auto FlashTime = 3500ms;
 constexpr int BarHeight = 44;
 constexpr int FromBottom = look::Space24;
 
-const QString BarStyle = QStringLiteral(
+const QString BarStyle = look::sheet(QStringLiteral(
     "NoticeBar { background-color: #2E2A36; border-radius: 22px; }"
-    "QLabel { color: white; font-size: 14px; }"
+    "QLabel { color: white; font-size: @body; }"
     "QPushButton { border: 2px solid transparent; border-radius: 16px; min-width: 64px; min-height: 28px;"
-    " padding: 0px 10px; background-color: #4A4356; color: white; font-size: 14px; }"
+    " padding: 0px 10px; background-color: #4A4356; color: white; font-size: @body; }"
     "QPushButton:hover { background-color: #5B5269; }"
     "QPushButton:pressed { background-color: #3C3647; }"
-    "QPushButton:focus { border-color: #B59BDD; }");
+    "QPushButton:focus { border-color: @focusLine; }"));
 
 } // namespace
 

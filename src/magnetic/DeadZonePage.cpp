@@ -25,6 +25,7 @@ DeadZonePage::~DeadZonePage() = default;
 void DeadZonePage::showTitles()
 {
     ui->frameDead->setPaneTitles(tr("顶部死区"), tr("底部死区"));
+    ui->frameDead->setPaneTips(tr("按键顶部不触发的距离，可防误触"), tr("按键底部不响应的距离，可防抖动"));
 }
 
 void DeadZonePage::enterPage()

@@ -149,6 +149,16 @@ TravelControls ModuleLinear::right() const
     return {ui->labelTitleS2, ui->verticalSlider2, ui->pushButtonM2, ui->lineEditValue2, ui->pushButtonP2};
 }
 
+void ModuleLinear::setPaneTips(const QString &left, const QString &right)
+{
+    for (QWidget *widget :
+         std::initializer_list<QWidget *>{ui->labelTitleS1, ui->verticalSlider1, ui->lineEditValue1})
+        widget->setToolTip(left);
+    for (QWidget *widget :
+         std::initializer_list<QWidget *>{ui->labelTitleS2, ui->verticalSlider2, ui->lineEditValue2})
+        widget->setToolTip(right);
+}
+
 void ModuleLinear::showNames()
 {
     travelcontrols::showNames(left());

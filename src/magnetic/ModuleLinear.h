@@ -25,6 +25,8 @@ public:
     float paneValue(bool left) const;
     /// Titles of the panes; the unit is appended. They stay until set again, also in another language.
     void setPaneTitles(const QString &left, const QString &right);
+    /// What the travels of the panes do, for the pointer that rests on them.
+    void setPaneTips(const QString &left, const QString &right);
 
 Q_SIGNALS:
     /// A slider was moved, by hand, by its buttons or by the program. Millimetres; \a type is 0 for the left

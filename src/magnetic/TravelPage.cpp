@@ -185,6 +185,7 @@ void TravelPage::showNames()
 {
     travelcontrols::showNames(rapidPress());
     travelcontrols::showNames(rapidRelease());
+    ui->frameLinear->setPaneTips(tr("按键按到多深时触发"), tr("按键抬到多高时释放"));
     for (ToggleButton *toggle : {ui->checkBoxUnpress, ui->checkBoxFullRT, ui->checkBoxRTPress})
         toggle->setAccessibleName(toggle->text());
 }

@@ -1,10 +1,8 @@
 #include "ConnectedKeyboard.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 #include <QTest>
 
 using virtualhid::Fault;
@@ -21,9 +19,7 @@ private Q_SLOTS:
     void unusableIds();
     void failedOpens_data();
     void failedOpens();
-    void nothingIsSentWithoutKeyboard();
     void burstOfChangesIsOneRefresh();
-    void refreshOffersWhatIsThere();
     void idsAreKept();
     void unwritableIdsDontStopIt();
 };
@@ -118,16 +114,6 @@ void TestConnecting::unusableIds()
     }
 }
 
-void TestConnecting::nothingIsSentWithoutKeyboard()
-{
-    ConnectedKeyboard link("wired-500");
-    link.connection.DoSendCommand(0x8F, 1, true);
-    link.connection.DoSendHex(QStringLiteral("84"), false);
-    link.connectDevice();
-    QVERIFY(link.waitForFrames(2));
-    QVERIFY2(link.commands().startsWith("1B 8F"), link.commands());
-}
-
 void TestConnecting::burstOfChangesIsOneRefresh()
 {
     ConnectedKeyboard link("wired-500");
@@ -142,23 +128,6 @@ void TestConnecting::burstOfChangesIsOneRefresh()
     QVERIFY(connected.wait());
     QVERIFY(sinceLast.elapsed() >= 799);
     QCOMPARE(connected.size(), 1);
-}
-
-void TestConnecting::refreshOffersWhatIsThere()
-{
-    ConnectedKeyboard link("wired-500");
-    const auto other = VirtualBus::instance().plug("wired-300");
-    link.control<QLineEdit>("lineEditPID")->setText(QStringLiteral(" 5030 "));
-    link.control<QPushButton>("pushButtonRefresh")->click();
-    auto *combo = link.control<QComboBox>("comboBoxPID");
-    QCOMPARE(combo->count(), 2);
-    QCOMPARE(combo->currentText(), QStringLiteral("5030"));
-    QCOMPARE(other->openHandles(), 3);
-
-    combo->setCurrentText(QStringLiteral("502F"));
-    QCOMPARE(link.control<QLineEdit>("lineEditPID")->text(), QStringLiteral("502F"));
-    QCOMPARE(other->openHandles(), 0);
-    QCOMPARE(link.keyboard->openHandles(), 3);
 }
 
 void TestConnecting::idsAreKept()

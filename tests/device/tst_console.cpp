@@ -3,11 +3,9 @@
 #include "ConsoleLog.h"
 #include "KeyMatrix.h"
 
-#include <functional>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTableView>
 #include <QTest>
 
 /// The engineering console as its user meets it.
@@ -17,20 +15,12 @@ class TestConsole : public QObject
 
 private Q_SLOTS:
     void tableShowsTheCatalogueAndReplies();
-    void editShowsTheCommandAndSendsNothing();
-    void clicksSendRowsAndToggleSwitches();
     void commandLineIsSent();
     void logShowsTheLastBurst();
     void savedMatrixBecomesTheDefault();
 
 private:
-    QPoint cell(QTableView *view, int row, int column);
 };
-
-QPoint TestConsole::cell(QTableView *view, int row, int column)
-{
-    return view->visualRect(view->model()->index(row, column)).center();
-}
 
 void TestConsole::tableShowsTheCatalogueAndReplies()
 {
@@ -49,57 +39,6 @@ void TestConsole::tableShowsTheCatalogueAndReplies()
     // Effect, speed turned round, and brightness; the rest of the row goes out as it was.
     QCOMPARE(rows->rowBytes(led).toHex(), QByteArray("0705030207ffffff"));
     QCOMPARE(rows->rowBytes(rows->rowOf(0x87)).toHex(), QByteArray("87050102090a0b0c"));
-}
-
-void TestConsole::editShowsTheCommandAndSendsNothing()
-{
-    ConnectedKeyboard link("wired-2ff");
-    QVERIFY(link.readAll());
-    link.keyboard->clearLog();
-    CommandRows *rows = link.connection.commandRows();
-    auto *line = link.control<QLineEdit>("lineEditCmd");
-    rows->item(rows->rowOf(0x50), CommandRows::Byte1 + 2)->setText(QStringLiteral("17"));
-    QCOMPARE(line->text(), QStringLiteral("50 00 00 11 00 00 00 00"));
-    rows->item(rows->rowOf(0x50), CommandRows::Byte1)->setText(QStringLiteral("no number"));
-    QCOMPARE(line->text(), QStringLiteral("50 00 00 11 00 00 00 00"));
-    link.settle();
-    QCOMPARE(link.keyboard->frameCount(), size_t(0));
-}
-
-void TestConsole::clicksSendRowsAndToggleSwitches()
-{
-    ConnectedKeyboard link("wired-2ff");
-    QVERIFY(link.readAll());
-    link.connection.show();
-    auto *view = link.control<QTableView>("tableView");
-    const CommandRows *rows = link.connection.commandRows();
-    const int row = rows->rowOf(0x06);
-    const auto framesOf = [&link](const std::function<void()> &action) {
-        link.settle();
-        link.keyboard->clearLog();
-        action();
-        return link.keyboard->frameCount();
-    };
-    const auto doubleClick = [view](const QPoint &at) {
-        return [view, at] {
-            QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
-            QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
-        };
-    };
-    const auto rightClick = [view](const QPoint &at) {
-        return [view, at] { Q_EMIT view->customContextMenuRequested(at); };
-    };
-    QCOMPARE(framesOf(doubleClick(cell(view, row, 2))), size_t(1)); // the command
-    QCOMPARE(framesOf(doubleClick(cell(view, row, 3))), size_t(0)); // a byte, which is edited
-    QCOMPARE(framesOf(rightClick(cell(view, row, 0))), size_t(1));
-    QCOMPARE(framesOf(rightClick(cell(view, row, 4))), size_t(0));
-
-    const int light = rows->rowOf(0x05);
-    view->scrollTo(rows->index(light, 3));
-    for (const int column : {3, 0}) { // only the byte is a switch
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, cell(view, light, column));
-        QCOMPARE(rows->rowBytes(light).toHex(), QByteArray("0500010000000000"));
-    }
 }
 
 void TestConsole::commandLineIsSent()

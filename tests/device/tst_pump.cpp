@@ -4,7 +4,6 @@
 
 #include <hidapi/hidapi.h>
 #include <mutex>
-#include <QMutex>
 #include <QTest>
 
 using virtualhid::Fault;
@@ -25,7 +24,6 @@ private Q_SLOTS:
     void burstGoesOutInOrderAndPaced_data();
     void burstGoesOutInOrderAndPaced();
     void twoImmediateKicks();
-    void immediateKickTakesTheFront();
     void wirelessNotice_data();
     void wirelessNotice();
     void strayReportIsNoAnswer();
@@ -107,19 +105,6 @@ void TestPump::twoImmediateKicks()
     QTRY_COMPARE(replies.size(), 2);
     QCOMPARE(keyboard->state().settings.debounce, sim::Byte(3));
     QCOMPARE(keyboard->state().settings.reportRate, sim::Byte(2));
-}
-
-void TestPump::immediateKickTakesTheFront()
-{
-    const HidHandle handle = open("wired-500", sim::Channel::Command);
-    CommandPump pump;
-    QSignalSpy drained(&pump, &CommandPump::drained);
-    pump.setLink(&handle, false);
-    pump.enqueue(QByteArray::fromHex("83"), Kick::Deferred);
-    pump.enqueue(QByteArray::fromHex("0603"), Kick::Immediate);
-    QCOMPARE(keyboard->frames().front().command(), sim::Byte(0x83));
-    QVERIFY(drained.wait());
-    QCOMPARE(keyboard->frameCount(), size_t(2));
 }
 
 void TestPump::wirelessNotice_data()

@@ -23,12 +23,10 @@ private Q_SLOTS:
     void pictureFitsTheCard();
     void nameChoosesThePicture_data();
     void nameChoosesThePicture();
-    void pressOpensTheDevice();
     void chargeIsShown_data();
     void chargeIsShown();
     void cloudRoundsEndWhenTheKeyboardIsThere();
     void roundsOfOtherDevices();
-    void pooledCardsAreReused();
 
 private:
     QLabel *label(const char *name) const { return card->findChild<QLabel *>(QLatin1String(name)); }
@@ -131,19 +129,6 @@ void TestCards::nameChoosesThePicture()
     QCOMPARE(clicked[0][1].toString(), imagePath(file));
 }
 
-void TestCards::pressOpensTheDevice()
-{
-    const auto receiver = plug("receiver", 50, sim::Channel::Command);
-    card->setDevice(&device);
-    QSignalSpy clicked(card, &FrameDeviceShow::onClicked);
-    QSignalSpy reported(card, &FrameDeviceShow::onReport);
-    QTest::mousePress(label("labelImage"), Qt::LeftButton); // a label lets it through
-    QCOMPARE(clicked.count(), 0);
-    QVERIFY(clicked.wait());
-    QCOMPARE(clicked[0][0].value<DeviceEnumInfo *>(), &device);
-    QTRY_COMPARE(reported.count(), 1);
-}
-
 void TestCards::chargeIsShown_data()
 {
     QTest::addColumn<int>("family");
@@ -224,30 +209,6 @@ void TestCards::roundsOfOtherDevices()
     QVERIFY(label("labelPower")->isHidden());
     QCOMPARE(keyboard->frameCount(), 3u);
     QCOMPARE(reported.count(), 0);
-}
-
-void TestCards::pooledCardsAreReused()
-{
-    QCOMPARE(FrameDeviceShow::acquire(0, nullptr), card);
-    QVERIFY(!FrameDeviceShow::acquire(256, &window));
-    QVERIFY(!FrameDeviceShow::acquire(-1, &window));
-    FrameDeviceShow *second = FrameDeviceShow::acquire(1, &window);
-    card->setSignalsConnected(true);
-    plug("receiver", 10, sim::Channel::Command);
-    card->setDevice(&device);
-    card->report();
-
-    DeviceEnumInfo other = device;
-    other.displayName = QStringLiteral("Two Words");
-    card->setDevice(&other);
-    QCOMPARE(label("labelDeviceName")->text(), other.displayName);
-    QVERIFY(label("labelPower")->toolTip().isEmpty());
-    QVERIFY(card->signalsConnected() && !second->signalsConnected());
-
-    card->show();
-    second->show();
-    FrameDeviceShow::hideFrom(1);
-    QVERIFY(!card->isHidden() && second->isHidden());
 }
 
 QTEST_MAIN(TestCards)

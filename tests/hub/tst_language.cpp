@@ -1,9 +1,7 @@
 #include "DeviceEnumInfo.h"
-#include "Languages.h"
 #include "LanguageSwitcher.h"
 #include "ModuleLangMenu.h"
 
-#include <QAbstractButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -17,7 +15,6 @@ class TestLanguage : public QObject
 
 private Q_SLOTS:
     void init();
-    void menuOpensUnderItsButton();
     void everyLanguageCanBeChosen();
     void choiceIsToldAtOnce();
     void savedLanguage();
@@ -43,26 +40,6 @@ void TestLanguage::init()
 {
     settings = std::make_unique<QSettings>(folder.filePath(QStringLiteral("hub.ini")), QSettings::IniFormat);
     settings->clear();
-}
-
-void TestLanguage::menuOpensUnderItsButton()
-{
-    ModuleLangMenu menu;
-    menu.openBelow({200, 60});
-    QVERIFY(menu.isVisible());
-    QCOMPARE(menu.pos(), QPoint(210, 60));
-    QCOMPARE(menu.width(), 110);
-    const auto buttons = menu.findChildren<QAbstractButton *>();
-    QCOMPARE(buttons.size(), qsizetype(Languages.size()));
-    int bottom = 0;
-    for (const QAbstractButton *button : buttons) {
-        QCOMPARE(button->size(), QSize(90, 24));
-        QVERIFY2(menu.rect().contains(button->geometry()), qPrintable(button->text()));
-        QVERIFY2(button->y() >= bottom, "one above the other");
-        bottom = button->geometry().bottom();
-    }
-    menu.openBelow({0, 0});
-    QCOMPARE(menu.pos(), QPoint(210, 60));
 }
 
 void TestLanguage::everyLanguageCanBeChosen()

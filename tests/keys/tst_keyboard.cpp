@@ -3,7 +3,6 @@
 #include "KeyMatrix.h"
 #include "ModuleKeyboard.h"
 
-#include <cmath>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -45,7 +44,6 @@ class TestKeyboard : public QObject
 
 private Q_SLOTS:
     void everyKeyHasItsPlace();
-    void captionsShowTheValues();
     void clicksSelect();
     void theBandSelectsByCorners_data();
     void theBandSelectsByCorners();
@@ -71,26 +69,6 @@ void TestKeyboard::everyKeyHasItsPlace()
         for (const keys::KeyPlace &other : keys::KeyboardLayout)
             QVERIFY(other.code == place.code || !other.rect().intersects(place.rect()));
     }
-}
-
-void TestKeyboard::captionsShowTheValues()
-{
-    ModuleKeyboard keyboard;
-    const auto shown = [&keyboard] { return keyboard.keyButton(KeyQ)->captions().join(QLatin1Char(' ')); };
-    keyboard.enterValueMode(2);
-    keyboard.setKeyValues2(KeyQ, 0.256f, 0.2f);
-    QCOMPARE(shown(), QStringLiteral("0.26 0.200"));
-    keyboard.enterValueMode(3);
-    keyboard.setKeyValues3(KeyQ, 1.2f, 2.8f);
-    keyboard.setKeyValues4(KeyQ, 0.15f, 0.2f, false);
-    QCOMPARE(shown(), QStringLiteral("1.200 2.800"));
-    keyboard.setKeyValues4(KeyQ, 0.15f, 0.2f, true);
-    QCOMPARE(shown(), QStringLiteral("0.150 1.200 0.200"));
-    keyboard.setKeyValues4(KeyQ, 0.15f, 0.2f, false);
-    keyboard.setKeyValues3(KeyQ, float(NAN), float(INFINITY));
-    QCOMPARE(shown(), QStringLiteral("nan inf"));
-    keyboard.enterLayerMode(true);
-    QVERIFY(!keyboard.grab().isNull());
 }
 
 void TestKeyboard::clicksSelect()

@@ -51,8 +51,6 @@ class TestKeyboardActions : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyKeyboardShowsIt();
-    void theBubbleTellsTheFunction();
     void popupOffersWhatFits();
     void changesReachTheKeyboard_data();
     void changesReachTheKeyboard();
@@ -74,51 +72,6 @@ bool TestKeyboardActions::connected()
     const bool read = device->readAll();
     device->settle();
     return read;
-}
-
-void TestKeyboardActions::everyKeyboardShowsIt()
-{
-    ModuleKeyboard keyboard;
-    ModuleKeyboard other;
-    ModuleKeyboard apart;
-    apart.enterSelectMode();
-    const auto isMarked = [](const ModuleKeyboard &board) { return board.keyButton(KeyQ)->hasBinding(); };
-    const auto isEnabled = [](const ModuleKeyboard &board) { return board.keyButton(KeyQ)->isEnabled(); };
-    keyboard.setKeyTooltip(KeyQ, Title, Body, false);
-    QVERIFY(isMarked(keyboard) && !isMarked(other));
-    keyboard.setKeyTooltip(KeyQ, Title, Body, true);
-    QVERIFY(isMarked(keyboard) && isMarked(other) && !isMarked(apart));
-    keyboard.setKeyTooltip(KeyQ, Title, {}, true);
-    QVERIFY(!isMarked(keyboard) && !isMarked(other));
-    keyboard.setKeyTooltip(KeyQ, Disabled, Body, true);
-    QVERIFY(!isEnabled(keyboard) && !isEnabled(other) && isEnabled(apart));
-    apart.setKeyTooltip(KeyQ, Title, Body, true);
-    QVERIFY(!isEnabled(other));
-    keyboard.setKeyTooltip(KeyQ, {}, {}, true);
-    QVERIFY(isEnabled(other) && !isMarked(other));
-}
-
-void TestKeyboardActions::theBubbleTellsTheFunction()
-{
-    ModuleKeyboard keyboard;
-    keyboard.move(200, 300);
-    keyboard.show();
-    KeyboardButton *key = keyboard.keyButton(KeyQ);
-    QVERIFY(!hover(key));
-    keyboard.setKeyTooltip(KeyQ, Title, Body, true);
-    keySetTooltip *bubble = hover(key);
-    QVERIFY(bubble && bubble->isVisible());
-    QCOMPARE(bubble->title(), Title);
-    QCOMPARE(bubble->body(), Body);
-    QCOMPARE(bubble->geometry().bottom() + 1, key->mapToGlobal(QPoint()).y());
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(key, &leave);
-    QVERIFY(!bubble->isVisible());
-    hover(key);
-    keyboard.hide();
-    QVERIFY(!bubble->isVisible());
-    keyboard.setKeyTooltip(KeyQ, {}, {}, true);
-    QVERIFY(!hover(key));
 }
 
 void TestKeyboardActions::popupOffersWhatFits()

@@ -4,7 +4,6 @@
 #include "ModuleMacroManager.h"
 #include "PickerSlot.h"
 
-#include <functional>
 #include <memory>
 #include <QAbstractButton>
 #include <QPointer>
@@ -66,7 +65,6 @@ private Q_SLOTS:
     void combinations();
     void functionsFollowTheLists();
     void macros();
-    void leaving();
     void aParentThatGoesEndsIt();
 };
 
@@ -176,31 +174,6 @@ void TestPickers::macros()
     QVERIFY(slotOf(picker, 2)->isHidden());
     openTab(picker, 0); // starts over
     QVERIFY(picker.entry().isEmpty() && !picker.isMacro() && !slotOf(picker, 2)->isHidden());
-}
-
-void TestPickers::leaving()
-{
-    QWidget page;
-    page.setGeometry(40, 30, 1124, 740);
-    page.show();
-    const auto result = [&page](bool keysOnly, const std::function<void(KeyPicker &)> &leave) {
-        const auto picker = makePicker(keysOnly, &page);
-        QTimer::singleShot(0, picker.get(), [&picker, leave] {
-            click(*picker, numbered("Hid", 4, 3));
-            leave(*picker);
-        });
-        return picker->exec();
-    };
-    const auto press = [](const char *button) {
-        return [button](KeyPicker &picker) { click(picker, QLatin1String(button)); };
-    };
-    const auto type = [](Qt::Key key) { return [key](KeyPicker &picker) { QTest::keyClick(&picker, key); }; };
-    for (const bool keysOnly : {false, true}) {
-        QCOMPARE(result(keysOnly, press("pushButtonOK")), int(QDialog::Accepted));
-        QCOMPARE(result(keysOnly, press("pushButtonCancel")), int(QDialog::Rejected));
-        QCOMPARE(result(keysOnly, type(Qt::Key_Return)), int(QDialog::Accepted));
-        QCOMPARE(result(keysOnly, type(Qt::Key_Escape)), int(QDialog::Rejected));
-    }
 }
 
 void TestPickers::aParentThatGoesEndsIt()

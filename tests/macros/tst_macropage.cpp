@@ -4,7 +4,6 @@
 #include "MacroGrid.h"
 #include "MacroItem.h"
 #include "MacroSquare.h"
-#include "ModuleAddMacroSquare.h"
 #include "ModuleMacroManager.h"
 
 #include <QElapsedTimer>

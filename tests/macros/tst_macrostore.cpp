@@ -1,7 +1,6 @@
 #include "ModuleMacroManager.h"
 
 #include <memory>
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>

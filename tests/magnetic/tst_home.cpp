@@ -3,7 +3,6 @@
 #include "ModuleRtSet.h"
 
 #include <memory>
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>

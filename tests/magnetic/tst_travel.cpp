@@ -41,7 +41,6 @@ private Q_SLOTS:
     void cleanupTestCase() { shared.reset(); }
 
     void anyTextIsATravel();
-    void aReleaseMovesTheHandle();
     void rapidTravels();
     void selectedKeysAreSet_data();
     void selectedKeysAreSet();
@@ -102,22 +101,6 @@ void TestTravel::anyTextIsATravel()
     boxOf(&linear, false)->setText(QStringLiteral("1.000")); // the right pane follows what was used first
     QCOMPARE(linear.paneValue(false), 1.0F);
     QCOMPARE(sliderOf(&linear, false)->value(), 1304);
-}
-
-void TestTravel::aReleaseMovesTheHandle()
-{
-    ModuleLinear linear;
-    linear.resize(300, 300);
-    linear.grab(); // lays it out
-    QSlider *slider = sliderOf(&linear, false);
-    const auto releaseAt = [slider](int y) { QTest::mouseRelease(slider, Qt::LeftButton, {}, {20, y}); };
-    releaseAt(slider->height() / 4);
-    QCOMPARE(slider->value(), 4000 * (slider->height() - slider->height() / 4) / slider->height());
-    releaseAt(-1000);
-    QCOMPARE(slider->value(), 4000);
-    linear.setPaneEnabled(false, false);
-    releaseAt(slider->height());
-    QCOMPARE(slider->value(), 4000);
 }
 
 void TestTravel::rapidTravels()

@@ -3,7 +3,6 @@
 #include "StandIn.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>

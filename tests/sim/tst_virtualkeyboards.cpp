@@ -1,16 +1,14 @@
-// The firmware model behind hidapi's functions: which frames it takes, what can fail on the way, and what
-// several threads may do. What it answers to whole works of the product is seen in the tests of those.
+// The firmware model behind hidapi's functions: which frames it takes, and what can fail on the way. What
+// it answers to whole works of the product is seen in the tests of those.
 
 #include "Bytes.h"
 #include "VirtualBus.h"
 
 #include <algorithm>
-#include <atomic>
 #include <hidapi/hidapi.h>
 #include <memory>
 #include <numeric>
 #include <QtTest>
-#include <thread>
 
 using namespace std::chrono_literals;
 using sim::Byte;
@@ -93,10 +91,7 @@ private Q_SLOTS:
     void spoilsReplies_data();
     void spoilsReplies();
     void faultHitsItsFrame();
-    void opensFail();
     void unplugAtFrame();
-    void closedHandleIsNoticed();
-    void threadsShareTheBus();
 
 private:
     DevicePtr keyboard;
@@ -226,21 +221,6 @@ void TestVirtualKeyboards::faultHitsItsFrame()
     QCOMPARE(keyboard->frameCount(), std::size_t{13});
 }
 
-void TestVirtualKeyboards::opensFail()
-{
-    keyboard->failOpens(1);
-    QVERIFY(!open(keyboard, Channel::Command));
-    QVERIFY(open(keyboard, Channel::Command));
-    keyboard->denyOpens(true);
-    QVERIFY(!open(keyboard, Channel::Command));
-    QVERIFY(std::wstring{hid_error(nullptr)}.ends_with(L"Permission denied"));
-    keyboard->denyOpens(false);
-    QVERIFY(!hid_open_path("virtual/nowhere"));
-    QVERIFY(std::wstring{hid_error(nullptr)}.ends_with(L"No such file or directory"));
-    QCOMPARE(VirtualBus::instance().counters().failedOpens, 3u);
-    QCOMPARE(VirtualBus::instance().counters().opens, 2u);
-}
-
 void TestVirtualKeyboards::unplugAtFrame()
 {
     int hotPlugs = 0;
@@ -256,50 +236,6 @@ void TestVirtualKeyboards::unplugAtFrame()
     QCOMPARE(hid_write(command.get(), buffer.data(), buffer.size()), -1);
     QCOMPARE(keyboard->frameCount(), std::size_t{1});
     QCOMPARE(VirtualBus::instance().counters().misuses, 0u);
-}
-
-void TestVirtualKeyboards::closedHandleIsNoticed()
-{
-    hid_device *handle = hid_open_path(keyboard->path(Channel::Command).c_str());
-    hid_close(handle);
-    Bytes buffer(65);
-    QCOMPARE(hid_get_feature_report(handle, buffer.data(), buffer.size()), -1);
-    QCOMPARE(hid_send_feature_report(nullptr, buffer.data(), buffer.size()), -1);
-    hid_close(handle);
-    hid_close(nullptr); // allowed
-    QCOMPARE(VirtualBus::instance().counters().misuses, 3u);
-    QVERIFY(open(keyboard, Channel::Command).get() != handle);
-}
-
-void TestVirtualKeyboards::threadsShareTheBus()
-{
-    VirtualBus &bus = VirtualBus::instance();
-    std::atomic<bool> stop = false;
-    std::jthread scanner{[&stop] {
-        while (!stop) {
-            hid_device_info *list = hid_enumerate(0, 0);
-            for (const hid_device_info *entry = list; entry; entry = entry->next)
-                Handle{hid_open_path(entry->path)};
-            hid_free_enumeration(list);
-        }
-    }};
-    std::jthread plugger{[&bus, &stop] {
-        while (!stop)
-            bus.unplug(bus.plug("bluetooth"));
-    }};
-    const Handle input = open(keyboard, Channel::KeyTest);
-    askWired(command, closed({0x1B, 1}));
-    Bytes report(64);
-    for (int i = 0; i < 200; ++i) {
-        keyboard->press(i % 60, 720, 1ms, 1ms);
-        QCOMPARE(askWired(command, closed({0x86})).size(), std::size_t{64});
-        QVERIFY(hid_read_timeout(input.get(), report.data(), report.size(), 1) >= 0);
-    }
-    stop = true;
-    scanner.join();
-    plugger.join();
-    QCOMPARE(bus.counters().misuses, 0u);
-    QCOMPARE(keyboard->frameFaults(), sim::FrameFaults{});
 }
 
 QTEST_GUILESS_MAIN(TestVirtualKeyboards)

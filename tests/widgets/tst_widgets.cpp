@@ -64,12 +64,10 @@ private Q_SLOTS:
     void sliderTakesAnyRange();
     void maskEndsWithItsChild_data();
     void maskEndsWithItsChild();
-    void maskCoversItsPage();
     void wheelTurns_data();
     void wheelTurns();
     void wheelTakesAnyIndex();
     void labelIsAButton();
-    void tipComesAndGoes();
     void bubbleIsPressedOnce();
     void tabsGlide();
     void switchTakesWholeClicks();
@@ -150,27 +148,6 @@ void TestWidgets::maskEndsWithItsChild()
     if (child)
         QVERIFY(!child->parent() && child->isHidden()); // handed back
     delete child.data();
-}
-
-void TestWidgets::maskCoversItsPage()
-{
-    QWidget window;
-    window.setGeometry(50, 60, 500, 400);
-    QWidget page(&window);
-    page.setGeometry(100, 80, 300, 200);
-    window.show();
-    QFrame child;
-    child.setFixedSize(100, 50);
-    ModuleGeneralMasker mask(&child, &page);
-    mask.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&mask));
-    QCOMPARE(mask.geometry(), QRect(page.mapToGlobal(QPoint(1, 1)), QSize(298, 198)));
-    QVERIFY((child.geometry().center() - mask.rect().center()).manhattanLength() <= 2);
-    QSignalSpy presses(&mask, &ModuleGeneralMasker::onClicked);
-    QTest::mouseClick(&mask, Qt::LeftButton, {}, {3, 3});
-    QCOMPARE(presses.size(), 1);
-    QVERIFY(mask.isVisible());
-    mask.reject();
 }
 
 void TestWidgets::wheelTurns_data()
@@ -255,23 +232,6 @@ void TestWidgets::labelIsAButton()
     QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(&first);
     QCOMPARE(reader->role(), QAccessible::Button);
     QCOMPARE(reader->text(QAccessible::Name), QStringLiteral("Home"));
-}
-
-void TestWidgets::tipComesAndGoes()
-{
-    SuperLabel label;
-    label.setGeometry(100, 100, 60, 80);
-    label.setTip(QStringLiteral("键盘设置"));
-    label.show();
-    auto *tip = label.findChild<CustomTooltip *>();
-    pointerEvent(&label, QEvent::Enter);
-    pointerEvent(&label, QEvent::Leave); // too brief a visit
-    QVERIFY(!QTest::qWaitFor([tip] { return tip->isVisible(); }, 300));
-    pointerEvent(&label, QEvent::Enter);
-    QTRY_VERIFY(tip->isVisible());
-    QCOMPARE(tip->pos(), label.mapToGlobal(QPoint(65, (80 - tip->height()) / 2)));
-    pointerEvent(&label, QEvent::Leave);
-    QVERIFY(!tip->isVisible());
 }
 
 void TestWidgets::bubbleIsPressedOnce()

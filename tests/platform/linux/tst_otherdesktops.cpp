@@ -1,4 +1,3 @@
-#include "KeyState.h"
 #include "Session.h"
 #include "SiblingOperations.h"
 #include "Topmost.h"
@@ -16,7 +15,6 @@
 #include <QWidget>
 
 using namespace std::chrono_literals;
-using platform::Key;
 
 namespace {
 
@@ -60,7 +58,6 @@ private Q_SLOTS:
     void cleanupTestCase();
 
     void foreignWindowsAreLeftAloneAndToldOnce();
-    void keysAreSeenWhileActive();
     void lockIsFollowed();
     void silentServiceHoldsNothingUp();
 
@@ -119,25 +116,6 @@ void TestOtherDesktops::foreignWindowsAreLeftAloneAndToldOnce()
     own.show();
     platform::setTopmost(&own, true);
     QVERIFY(own.isVisible());
-}
-
-void TestOtherDesktops::keysAreSeenWhileActive()
-{
-    QWidget window;
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    QVERIFY(!platform::isKeyDown(Key::Escape));
-    QTest::keyPress(&window, Qt::Key_Control);
-    QTest::keyPress(&window, Qt::Key_D, Qt::ControlModifier);
-    QVERIFY(platform::isKeyDown(Key::Control));
-    QVERIFY(platform::isKeyDown(Key::D));
-    QVERIFY(!platform::isKeyDown(Key::Escape));
-    QTest::keyRelease(&window, Qt::Key_D, Qt::ControlModifier);
-    QVERIFY(!platform::isKeyDown(Key::D));
-    // The release of what is held goes to the program that comes next.
-    QEvent away(QEvent::ApplicationStateChange);
-    QCoreApplication::sendEvent(qApp, &away);
-    QVERIFY(!platform::isKeyDown(Key::Control));
 }
 
 void TestOtherDesktops::lockIsFollowed()

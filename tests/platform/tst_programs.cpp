@@ -2,17 +2,19 @@
 
 #include "Autostart.h"
 #include "HubSettings.h"
+#include "Processes.h"
 #include "SiblingOperations.h"
 #include "StandIn.h"
 
-#include <QGuiApplication>
+#include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
-/// What the hub keeps for the user, and what it shares with its drivers.
-class TestSharedValues : public QObject
+/// The programs that the hub starts, looks for and ends, what it shares with them, and what it keeps for the
+/// user.
+class TestPrograms : public QObject
 {
     Q_OBJECT
 
@@ -20,26 +22,73 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
 
+    void startedAndEnded_data();
+    void startedAndEnded();
+    void notedWhateverStartsOrEndsIt();
     void brandsHaveTheirOwn();
     void driverAndHubSeeEachOther();
     void autostartStartsTheProgram_data();
     void autostartStartsTheProgram();
     void autostartSwitchedOffByTheDesktop();
+
+private:
+    QTemporaryDir folder;
 };
 
-void TestSharedValues::initTestCase()
+void TestPrograms::initTestCase()
 {
     QStandardPaths::setTestModeEnabled(true);
 }
 
-void TestSharedValues::cleanup()
+void TestPrograms::cleanup()
 {
     platform::hubSettings(false).clear();
     platform::hubSettings(true).clear();
     autostart::disable();
 }
 
-void TestSharedValues::brandsHaveTheirOwn()
+void TestPrograms::startedAndEnded_data()
+{
+    QTest::addColumn<QString>("folderName");
+    QTest::addColumn<QString>("program");
+    QTest::newRow("blanks, which must not start C:\\Program")
+        << QStringLiteral("Program Files (x86)") << QStringLiteral("Orbe With Blanks.exe");
+    QTest::newRow("characters of other scripts")
+        << QStringLiteral("键盘 ключ") << QStringLiteral("Orbe-Script.exe");
+    QTest::newRow("a name longer than the kernel keeps")
+        << QStringLiteral("JmExe") << QStringLiteral("Orbe-Gaming-Bub-With-A-Long-Name.exe");
+}
+
+void TestPrograms::startedAndEnded()
+{
+    QFETCH(QString, folderName);
+    QFETCH(QString, program);
+    StandIn driver(folder.filePath(folderName), program, {{QStringLiteral("hidden"), true}});
+    Processes processes;
+    QVERIFY(!processes.isRunning(program));
+    QVERIFY(processes.start(driver.path()));
+    QTRY_VERIFY(processes.isRunning(program.toUpper()));
+    QTRY_VERIFY(driver.report().contains(QStringLiteral("started")));
+    processes.end(program.toUpper());
+    QTRY_VERIFY(!processes.isRunning(program));
+}
+
+void TestPrograms::notedWhateverStartsOrEndsIt()
+{
+    StandIn driver(folder.filePath(QStringLiteral("by others")), QStringLiteral("Orbe-Others.exe"),
+                   {{QStringLiteral("hidden"), true}});
+    Processes processes;
+    QVERIFY(!processes.isRunning(driver.name()));
+    QProcess other;
+    other.start(driver.path(), QStringList());
+    QVERIFY(other.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(processes.isRunning(driver.name()), 2500);
+    other.kill();
+    QVERIFY(other.waitForFinished());
+    QVERIFY(!processes.isRunning(driver.name()));
+}
+
+void TestPrograms::brandsHaveTheirOwn()
 {
     QSettings &orbe = platform::hubSettings(false);
     QSettings &tarnwick = platform::hubSettings(true);
@@ -52,9 +101,8 @@ void TestSharedValues::brandsHaveTheirOwn()
              "tests don't touch the user's values nor each other's");
 }
 
-void TestSharedValues::driverAndHubSeeEachOther()
+void TestPrograms::driverAndHubSeeEachOther()
 {
-    const QTemporaryDir folder;
     QSettings &settings = platform::hubSettings(false);
     const auto operations = SiblingOperations::create(settings);
     const QString path = QStringLiteral(R"(\\?\hid#vid_38ee&pid_0016&mi_01#7&1a2b, "x"; 键%)");
@@ -78,7 +126,7 @@ void TestSharedValues::driverAndHubSeeEachOther()
     QTRY_COMPARE(driver.report().last(), QStringLiteral("DevicePath="));
 }
 
-void TestSharedValues::autostartStartsTheProgram_data()
+void TestPrograms::autostartStartsTheProgram_data()
 {
     QTest::addColumn<QString>("program");
     QTest::newRow("what shells and desktop entries expand")
@@ -86,7 +134,7 @@ void TestSharedValues::autostartStartsTheProgram_data()
     QTest::newRow("other scripts") << QStringLiteral("/home/用户/клавиатура/OrbeHub");
 }
 
-void TestSharedValues::autostartStartsTheProgram()
+void TestPrograms::autostartStartsTheProgram()
 {
     QFETCH(QString, program);
     QVERIFY(!autostart::isEnabled());
@@ -99,7 +147,7 @@ void TestSharedValues::autostartStartsTheProgram()
     QCOMPARE(autostartedProgram(), QString());
 }
 
-void TestSharedValues::autostartSwitchedOffByTheDesktop()
+void TestPrograms::autostartSwitchedOffByTheDesktop()
 {
     autostart::enable(QStringLiteral("/opt/orbehub/OrbeHub"));
     switchOffInTheDesktop();
@@ -108,5 +156,5 @@ void TestSharedValues::autostartSwitchedOffByTheDesktop()
     QVERIFY(autostart::isEnabled());
 }
 
-QTEST_GUILESS_MAIN(TestSharedValues)
-#include "tst_sharedvalues.moc"
+QTEST_GUILESS_MAIN(TestPrograms)
+#include "tst_programs.moc"

@@ -1,9 +1,22 @@
 #include "ConnectedKeyboard.h"
 #include "KeyMatrix.h"
 
+#include <numeric>
 #include <QTest>
 
+using virtualhid::Fault;
+
 namespace {
+
+constexpr int ReadBytes = 384;
+
+/// A colour map with no two neighbours alike, different for each seed.
+QByteArray colourMap(qsizetype length, int seed)
+{
+    QByteArray map(length, '\0');
+    std::iota(map.begin(), map.end(), char(seed * 41));
+    return map;
+}
 
 constexpr quint8 KeyA = 0x04;
 
@@ -17,30 +30,95 @@ QByteArray stream(qsizetype length)
 
 } // namespace
 
-/// Macros on their way to the keyboard.
-class TestMacroTransfer : public QObject
+/// Pictures and macros on their way to the keyboard and back, on one keyboard that is shared.
+class TestTransfers : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase() { shared.reset(); }
+    void init();
+    void writtenAndRead_data();
+    void writtenAndRead();
+    void overlappingReadsEndWithTheLast();
     void arrives_data();
     void arrives();
-    void keyboardVanishes();
     void waitsForARead();
+    void keyboardVanishes();
 
 private:
-    std::unique_ptr<ConnectedKeyboard> shared; ///< of the tests that leave it well
+    std::unique_ptr<ConnectedKeyboard> shared;
 };
 
-void TestMacroTransfer::initTestCase()
+void TestTransfers::initTestCase()
 {
     shared = std::make_unique<ConnectedKeyboard>("wired-2ff");
     QVERIFY(shared->readAll());
+    for (const quint8 slot : {0, 1}) {
+        shared->connection.DoWriteUserPic(slot, colourMap(ReadBytes, slot));
+        shared->settle();
+    }
 }
 
-void TestMacroTransfer::arrives_data()
+void TestTransfers::init()
+{
+    shared->settle();
+    shared->keyboard->clearLog();
+}
+
+void TestTransfers::writtenAndRead_data()
+{
+    QTest::addColumn<int>("slot");
+    QTest::addColumn<int>("length");
+    QTest::newRow("as painted") << 2 << 500;
+    QTest::newRow("exactly what is sent") << 3 << 392;
+    QTest::newRow("as read") << 4 << ReadBytes;
+    QTest::newRow("ends within a page") << 2 << 100;
+}
+
+void TestTransfers::writtenAndRead()
+{
+    QFETCH(int, slot);
+    QFETCH(int, length);
+    const QByteArray map = colourMap(length, slot + 1);
+    shared->connection.DoSetLedEffect(22, 0);
+    shared->connection.DoWriteUserPic(quint8(slot), map);
+    QVERIFY(!shared->connection.isMusicOn());
+    shared->settle();
+    QCOMPARE(shared->commands(1), QByteArray("07 0C 0C 0C 0C 0C 0C 0C"));
+    for (int page = 0; page < 7; ++page) {
+        const QString head = QString::asprintf("0C %02X FF %02X 38 %02X 00", slot, page, page == 6);
+        QCOMPARE(shared->frame(size_t(page) + 2, 7), head.toLatin1());
+    }
+    const QByteArray held = (map + QByteArray(392, '\0')).first(392);
+    QCOMPARE(bytesOf(shared->keyboard->state().pictures.bytes(slot)), held);
+    const sim::LedParams light = shared->keyboard->light().keys;
+    QCOMPARE(light.effect, sim::PictureEffect);
+    QCOMPARE(light.option, sim::Byte(slot * 16));
+
+    QSignalSpy pictures(&shared->connection, &DialogDeviceConnect::onGetPictrue);
+    shared->connection.DoReadUserPic(quint8(slot));
+    QVERIFY(pictures.wait());
+    QCOMPARE(pictures.takeFirst().at(0).toByteArray(), held.first(ReadBytes));
+    QCOMPARE(shared->keyboard->light().keys, light);
+    QCOMPARE(shared->keyboard->frameFaults(), sim::FrameFaults{});
+}
+
+void TestTransfers::overlappingReadsEndWithTheLast()
+{
+    QSignalSpy pictures(&shared->connection, &DialogDeviceConnect::onGetPictrue);
+    shared->connection.DoReadUserPic(0);
+    QVERIFY(shared->waitForFrames(3));
+    {
+        const DialogDeviceConnect::WriteGroup group(shared->connection);
+        shared->connection.DoReadUserPic(1);
+    }
+    shared->settle();
+    QCOMPARE(pictures.last().at(0).toByteArray(), colourMap(ReadBytes, 1));
+}
+
+void TestTransfers::arrives_data()
 {
     QTest::addColumn<int>("length");
     QTest::addColumn<int>("pages");
@@ -50,13 +128,11 @@ void TestMacroTransfer::arrives_data()
     QTest::newRow("all of the keyboard's room") << 254 << 5;
 }
 
-void TestMacroTransfer::arrives()
+void TestTransfers::arrives()
 {
     QFETCH(int, length);
     QFETCH(int, pages);
     ConnectedKeyboard &device = *shared;
-    device.settle();
-    device.keyboard->clearLog();
     device.connection.DoSetMacro(KeyA, 300, 2, 49, stream(length));
     QVERIFY(device.waitForFrames(size_t(pages) + 1));
     device.settle();
@@ -77,7 +153,7 @@ void TestMacroTransfer::arrives()
     QCOMPARE(device.keyboard->frameFaults(), sim::FrameFaults{});
 }
 
-void TestMacroTransfer::keyboardVanishes()
+void TestTransfers::keyboardVanishes()
 {
     shared.reset();
     ConnectedKeyboard device("wired-2ff");
@@ -106,12 +182,10 @@ void TestMacroTransfer::keyboardVanishes()
     QVERIFY(device.keyboard->state().macros.find(7)->complete);
 }
 
-void TestMacroTransfer::waitsForARead()
+void TestTransfers::waitsForARead()
 {
-    ConnectedKeyboard device("wired-2ff");
-    QVERIFY(device.readAll());
-    device.settle();
-    device.keyboard->clearLog();
+    ConnectedKeyboard &device = *shared;
+    device.readDone.clear();
     device.connection.DoReadAll();
     device.connection.DoSetMacro(KeyA, 1, 0, 1, stream(100));
     QVERIFY(device.readDone.wait(20000));
@@ -121,5 +195,5 @@ void TestMacroTransfer::waitsForARead()
     QCOMPARE(device.commands().split(' ').count("0B"), 2);
 }
 
-QTEST_MAIN(TestMacroTransfer)
-#include "tst_macrotransfer.moc"
+QTEST_MAIN(TestTransfers)
+#include "tst_transfers.moc"

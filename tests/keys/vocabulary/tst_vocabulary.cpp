@@ -1,17 +1,20 @@
 #include "KeyMatrix.h"
 #include "KeyNameTable.h"
+#include "ModuleGenKeymapping.h"
 
+#include <QFile>
 #include <QTest>
 
-/// The default matrices, and the way from a position to a key code and back.
-class TestKeyMatrix : public QObject
+/// The default matrices and the way from a position to a key code and back; names of keys, the lists of
+/// functions, and the text of a key function. The .tsv files hold the rows as they are promised to the
+/// keyboard and to the pickers.
+class TestVocabulary : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { factory = keys::defaultKeyMatrix(); }
     void cleanup() { QVERIFY(keys::SetDefaultKeyMap(factory)); }
-
     void factoryRowsReadAsOnTheBoard_data();
     void factoryRowsReadAsOnTheBoard();
     void keysWithoutPlainUsage();
@@ -20,6 +23,10 @@ private Q_SLOTS:
     void codesAndDefaultsFollowASavedMatrix();
     void entriesOutsideAMatrix_data();
     void entriesOutsideAMatrix();
+    void keyNames();
+    void functionLists();
+    void entryText_data();
+    void entryText();
 
 private:
     QByteArray factory;
@@ -35,7 +42,7 @@ static KeyEntry entryOf(const QByteArray &hex)
     return keys::entryAt(QByteArray::fromHex(hex), 0);
 }
 
-void TestKeyMatrix::factoryRowsReadAsOnTheBoard_data()
+void TestVocabulary::factoryRowsReadAsOnTheBoard_data()
 {
     QTest::addColumn<int>("row");
     QTest::addColumn<QString>("names"); // two blanks apart; -- for a hole or a key without a name
@@ -50,7 +57,7 @@ void TestKeyMatrix::factoryRowsReadAsOnTheBoard_data()
         << 5 << "L-Ctrl  L-Win  L-Alt  --  --  --  Space  --  --  R-Alt  --  R-Ctrl  ←  ↓  →";
 }
 
-void TestKeyMatrix::factoryRowsReadAsOnTheBoard()
+void TestVocabulary::factoryRowsReadAsOnTheBoard()
 {
     QFETCH(int, row);
     QFETCH(QString, names);
@@ -64,7 +71,7 @@ void TestKeyMatrix::factoryRowsReadAsOnTheBoard()
     QCOMPARE(found.join(QStringLiteral("  ")), names);
 }
 
-void TestKeyMatrix::keysWithoutPlainUsage()
+void TestVocabulary::keysWithoutPlainUsage()
 {
     const auto is = [](int position, int code, const char *entry) {
         return hexAt(keys::defaultKeyMatrix(), position) == entry &&
@@ -79,7 +86,7 @@ void TestKeyMatrix::keysWithoutPlainUsage()
     QVERIFY2(is(97, 0xFD, "0D 02 01 00"), "backlight brighter");
 }
 
-void TestKeyMatrix::everyKeyLeadsBackToItsPosition()
+void TestVocabulary::everyKeyLeadsBackToItsPosition()
 {
     int found = 0;
     for (int position = 0; position <= 0xFF; ++position) {
@@ -95,7 +102,7 @@ void TestKeyMatrix::everyKeyLeadsBackToItsPosition()
         QCOMPARE(keys::PositionOfCode(code), keys::NoPosition);
 }
 
-void TestKeyMatrix::fnLayerStandsOneByteEarlyFromPosition15()
+void TestVocabulary::fnLayerStandsOneByteEarlyFromPosition15()
 {
     const QByteArray start =
         "00000000 0A020000 00000000 00000000 00000000 0D080000 03009401 00000000 00000000"
@@ -107,7 +114,7 @@ void TestKeyMatrix::fnLayerStandsOneByteEarlyFromPosition15()
     QCOMPARE(matrix.mid(93 * KeyEntry::Size), QByteArray(35 * KeyEntry::Size, '\0'));
 }
 
-void TestKeyMatrix::codesAndDefaultsFollowASavedMatrix()
+void TestVocabulary::codesAndDefaultsFollowASavedMatrix()
 {
     QByteArray board = factory;
     QVERIFY(keys::setEntryAt(board, 0, entryOf("00003500")));   // grave moves to the Esc position
@@ -132,7 +139,7 @@ void TestKeyMatrix::codesAndDefaultsFollowASavedMatrix()
     QCOMPARE(keys::defaultKeyMatrix(), board);
 }
 
-void TestKeyMatrix::entriesOutsideAMatrix_data()
+void TestVocabulary::entriesOutsideAMatrix_data()
 {
     QTest::addColumn<int>("size");
     QTest::addColumn<int>("position");
@@ -145,7 +152,7 @@ void TestKeyMatrix::entriesOutsideAMatrix_data()
     QTest::newRow("far past any matrix") << 512 << 0x40000000 << false;
 }
 
-void TestKeyMatrix::entriesOutsideAMatrix()
+void TestVocabulary::entriesOutsideAMatrix()
 {
     QFETCH(int, size);
     QFETCH(int, position);
@@ -158,5 +165,85 @@ void TestKeyMatrix::entriesOutsideAMatrix()
     QCOMPARE(matrix.size(), size);
 }
 
-QTEST_GUILESS_MAIN(TestKeyMatrix)
-#include "tst_keymatrix.moc"
+/// Rows of a table file, each as its fields.
+static QList<QStringList> rowsOf(const QString &file)
+{
+    QList<QStringList> rows;
+    QFile tsv(u':' + file);
+    if (!tsv.open(QIODevice::ReadOnly | QIODevice::Text))
+        return rows;
+    while (!tsv.atEnd())
+        rows += QString::fromUtf8(tsv.readLine()).chopped(1).split(u'\t');
+    return rows;
+}
+
+void TestVocabulary::keyNames()
+{
+    const QList<QStringList> rows = rowsOf(QStringLiteral("keynames.tsv")); // name, usage, scan code
+    QCOMPARE(rows.size(), qsizetype(keys::KeyNameTable.size()));
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        const KeyName &key = keys::KeyNameTable[size_t(i)];
+        QCOMPARE(key.name.toString(), rows[i][0]);
+        QCOMPARE(uint(key.usage), rows[i][1].toUInt(nullptr, 16));
+        QCOMPARE(uint(key.scan), rows[i][2].toUInt(nullptr, 16));
+    }
+}
+
+void TestVocabulary::functionLists()
+{
+    for (const bool mouse : {false, true}) {
+        const auto at = mouse ? ModuleGenKeymapping::MouseEntryAt : ModuleGenKeymapping::FunctionEntryAt;
+        const QString group = mouse ? QStringLiteral("鼠标: ") : QStringLiteral("功能: ");
+        const auto rows = rowsOf(mouse ? QStringLiteral("mouse.tsv") : QStringLiteral("functions.tsv"));
+        QCOMPARE(rows.size(), mouse ? 15 : 98);
+        QHash<QString, QString> firstNames;
+        for (qsizetype i = 0; i < rows.size(); ++i) {
+            const QString entry = rows[i][0];
+            const QString name = rows[i][1];
+            const KeyFunction *row = at(quint8(i));
+            QVERIFY(row);
+            QVERIFY2(row->entry == entryOf(entry.toLatin1()), qPrintable(name));
+            QCOMPARE(row->name(), name);
+            if (!firstNames.contains(entry))
+                firstNames.insert(entry, name);
+            QCOMPARE(ModuleGenKeymapping::KeyEntryText(row->entry, false), group + firstNames.value(entry));
+        }
+        for (int past = int(rows.size()); past <= 0xFF; ++past)
+            QVERIFY(!at(quint8(past)));
+    }
+}
+
+void TestVocabulary::entryText_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *entry, const char *group, const char *text) {
+        QTest::newRow(entry) << QString::fromUtf8(group) << QString::fromUtf8(text);
+    };
+    row("00000000", "", "");
+    row("00002C00", "", ""); // a plain key in factory form
+    row("002C0000", "组合: ", "Space");
+    row("00E0E14C", "组合: ", "L-Ctrl + L-Shift + Delete");
+    row("00E00004", "组合: ", "L-Ctrl + A");
+    row("00E0FA04", "组合: ", "L-Ctrl + A"); // a key without a name is left out
+    row("0000E304", "", "");
+    row("00E02C00", "", "功能: 切换输入法"); // the list comes before the combination
+    row("03002402", "", "功能: 后退");       // the first of two names
+    row("09020500", "", "宏设置");
+    row("0D290000", "组合: ", "Esc"); // an unlisted light entry reads as keys
+    row("0300FFFF", "", "");
+    row("00000001", "", "");
+    row("FFFFFFFF", "", "");
+}
+
+void TestVocabulary::entryText()
+{
+    QFETCH(QString, group);
+    QFETCH(QString, text);
+    const KeyEntry entry = entryOf(QTest::currentDataTag());
+    QCOMPARE(ModuleGenKeymapping::KeyEntryText(entry, true), group + text);
+    QCOMPARE(ModuleGenKeymapping::KeyEntryText(entry, false), text);
+}
+
+QTEST_GUILESS_MAIN(TestVocabulary)
+#include "tst_vocabulary.moc"

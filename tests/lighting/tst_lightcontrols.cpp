@@ -1,22 +1,36 @@
-#include "ColorLabel.h"
+#include "ColorSlider.h"
 #include "ColorSquare.h"
 #include "DialogColorPicker.h"
 #include "ModuleEfColor.h"
-#include "ModuleEfLumi.h"
 #include "ModuleEfMode.h"
-#include "ModuleEfSpeed.h"
+#include "ScreenPipette.h"
 
+#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QCursor>
 #include <QLabel>
-#include <QPushButton>
+#include <QLineEdit>
 #include <QSignalSpy>
-#include <QSlider>
 #include <QTableView>
 #include <QTest>
 #include <tuple>
 
 namespace {
+
+constexpr QSize SquareSize(300, 200);
+
+QColor lastColor(const QSignalSpy &spy)
+{
+    return spy.isEmpty() ? QColor() : spy.last().at(0).value<QColor>();
+}
+
+QColor colorAt(double hue, int x, int y)
+{
+    const auto saturation = float(double(x) / SquareSize.width());
+    const auto value = float(double(SquareSize.height() - y) / SquareSize.height());
+    return QColor::fromRgb(QColor::fromHsvF(float(hue), saturation, value, 1.0F).rgb());
+}
 
 template <typename Widget>
 Widget *child(const QWidget &parent, const char *name)
@@ -52,23 +66,114 @@ QByteArray lastBlock(const QSignalSpy &spy)
 
 } // namespace
 
-/// The effect controls: what a click tells the page, and what a reply shows.
-class TestEffects : public QObject
+/// Choosing a colour by square, slider, number and pipette; the effect controls: what a click tells the page,
+/// and what a reply shows.
+class TestLightControls : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void pointerChoosesItsPixel();
+    void everyChoiceIsReportedTwice();
+    void typedChannels();
+    void pipetteTakesWhatIsUnderThePointer();
     void clickShowsTheOptions();
     void replyIsShownAndNotSentBack();
-    void levelsTellAndShow();
     void clickedDotGoesToTheMiddle();
-    void customColourGoesToTheSelectedSwatch();
     void sideLightBlock();
     void sideLightReply();
     void pickedColourIsSentAfterAPause();
 };
 
-void TestEffects::clickShowsTheOptions()
+void TestLightControls::pointerChoosesItsPixel()
+{
+    const std::array<std::pair<QPoint, QPoint>, 5> places{{{{300, 0}, {300, 0}},
+                                                           {{211, 37}, {211, 37}},
+                                                           {{1, 199}, {1, 199}}, // pointer and pixel
+                                                           {{-20, -1}, {0, 0}},
+                                                           {{1000, 700}, {300, 200}}}};
+    for (const double hue : {0.0, 0.04, 0.2, 0.41, 0.5, 0.71, 0.99, 1.0}) {
+        ColorSquare square;
+        square.resize(SquareSize);
+        square.setHue(hue);
+        square.grab();
+        QSignalSpy selected(&square, &ColorSquare::colorSelected);
+        QTest::mousePress(&square, Qt::LeftButton, {}, {5, 5});
+        for (const auto &[pointer, pixel] : places) {
+            QMouseEvent move(QEvent::MouseMove, pointer, square.mapToGlobal(pointer), Qt::NoButton,
+                             Qt::LeftButton, {});
+            QCoreApplication::sendEvent(&square, &move);
+            QCOMPARE(lastColor(selected), colorAt(hue, pixel.x(), pixel.y()));
+        }
+        QCOMPARE(size_t(selected.size()), 1 + places.size());
+    }
+}
+
+void TestLightControls::everyChoiceIsReportedTwice()
+{
+    DialogColorPicker picker;
+    picker.show();
+    QSignalSpy picked(&picker, &DialogColorPicker::onPickupColor);
+    picker.setColor({12, 34, 56});
+    QCOMPARE(picked.size(), 0);
+    QTest::mouseClick(picker.findChild<ColorSquare *>(), Qt::LeftButton, {}, {300, 0});
+    QCOMPARE(picked.size(), 2);
+    auto *hue = picker.findChild<ColorSlider *>(QStringLiteral("horizontalSlider"));
+    hue->setValue(120);
+    QTRY_COMPARE(picked.size(), 4);
+    QCOMPARE(picked[2], picked[3]);
+    QCOMPARE(lastColor(picked), QColor(Qt::green));
+    QCOMPARE(picker.findChild<QLineEdit *>(QStringLiteral("lineEditG"))->text(), QStringLiteral("255"));
+    QCOMPARE(picker.findChild<QLineEdit *>(QStringLiteral("lineEditHex"))->text(), QStringLiteral("#00FF00"));
+    QTest::keyClicks(picker.findChild<QLineEdit *>(QStringLiteral("lineEditHex")), QStringLiteral("12"));
+    QCOMPARE(picked.size(), 4);
+}
+
+void TestLightControls::typedChannels()
+{
+    for (const auto &[text, green] : {std::pair("7", 7), {"999", 255}, {"-5", 0}, {"x", 0}}) {
+        DialogColorPicker picker;
+        picker.setColor({200, 100, 50});
+        QSignalSpy picked(&picker, &DialogColorPicker::onPickupColor);
+        auto *box = picker.findChild<QLineEdit *>(QStringLiteral("lineEditG"));
+        box->selectAll();
+        QTest::keyClicks(box, QLatin1String(text));
+        QCOMPARE(lastColor(picked), QColor(200, green, 50));
+        QCOMPARE(picker.findChild<ColorSquare *>()->hue(), double(QColor(200, 100, 50).hueF()));
+    }
+}
+
+void TestLightControls::pipetteTakesWhatIsUnderThePointer()
+{
+    QWidget elsewhere; // a window of another colour on the screen
+    elsewhere.setPalette(QPalette(QColor(10, 200, 30)));
+    elsewhere.setGeometry(500, 500, 200, 200);
+    elsewhere.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&elsewhere));
+    DialogColorPicker picker;
+    picker.showAt(0, 0);
+    QLabel *button = picker.findChild<QLabel *>(QStringLiteral("labelPick"));
+    auto *pipette = picker.findChild<ScreenPipette *>();
+    QSignalSpy picked(&picker, &DialogColorPicker::onPickupColor);
+    QCursor::setPos(300, 300);
+    QTest::mousePress(button, Qt::RightButton);
+    QVERIFY(!pipette->isVisible());
+    QTest::mousePress(button, Qt::LeftButton);
+    QVERIFY(pipette->isVisible());
+    const QPoint there(600, 600);
+    QCursor::setPos(there);
+    QTRY_COMPARE(pipette->geometry().center(), there);
+    QTRY_COMPARE(lastColor(picked), QColor(10, 200, 30));
+    QTest::mouseRelease(button, Qt::LeftButton);
+    QVERIFY(!pipette->isVisible());
+    picked.clear();
+    QCursor::setPos(610, 610);
+    QTest::qWait(50); // five of its looks at the pointer
+    QCOMPARE(picked.size(), 0);
+    QCOMPARE(picker.color(), QColor(10, 200, 30));
+}
+
+void TestLightControls::clickShowsTheOptions()
 {
     for (const auto &[id, label, options] : {std::tuple(4, "光波 (04)", "左,右,上,下"),
                                              {7, "川流不息 (07)", "Z形,回形"},
@@ -95,7 +200,7 @@ void TestEffects::clickShowsTheOptions()
     }
 }
 
-void TestEffects::replyIsShownAndNotSentBack()
+void TestLightControls::replyIsShownAndNotSentBack()
 {
     ModuleEfMode module;
     QVERIFY(effectButton(module, 1)->isChecked());
@@ -113,29 +218,7 @@ void TestEffects::replyIsShownAndNotSentBack()
     QCOMPARE(changed, QList<QVariantList>({{5, uchar(0)}, {-1, uchar(1)}}));
 }
 
-void TestEffects::levelsTellAndShow()
-{
-    ModuleEfLumi brightness;
-    ModuleEfSpeed speed;
-    QSignalSpy bright(&brightness, &ModuleEfLumi::onBrightChanged);
-    QSignalSpy fast(&speed, &ModuleEfSpeed::onSpeedChanged);
-    auto *brightSlider = child<QSlider>(brightness, "horizontalSlider");
-    auto *speedSlider = child<QSlider>(speed, "horiCyanSlider");
-    QCOMPARE(child<QLabel>(speed, "labelTitle2")->text(), QStringLiteral("25%"));
-    for (const int level : {3, 3, 9}) { // the second one moves nothing, and so holds nothing back
-        brightness.setBright(level);
-        speed.setSpeed(level);
-    }
-    QCOMPARE(child<QLabel>(brightness, "labelTitle2")->text(), QStringLiteral("100%"));
-    brightness.setBright(4);
-    brightSlider->setValue(2);
-    speedSlider->setValue(0);
-    QCOMPARE(bright, QList<QVariantList>({{2}}));
-    QCOMPARE(fast, QList<QVariantList>({{uchar(0)}}));
-    QCOMPARE(child<QLabel>(brightness, "labelTitle2")->text(), QStringLiteral("50%"));
-}
-
-void TestEffects::clickedDotGoesToTheMiddle()
+void TestLightControls::clickedDotGoesToTheMiddle()
 {
     ModuleEfColor module;
     module.resize(480, 304);
@@ -150,24 +233,7 @@ void TestEffects::clickedDotGoesToTheMiddle()
     clickDot(module, 6); // back: the order is one for all instances
 }
 
-void TestEffects::customColourGoesToTheSelectedSwatch()
-{
-    ModuleEfColor module;
-    QSignalSpy color(&module, &ModuleEfColor::onSetColor);
-    auto *square = child<ColorSquare>(module, "colorSquare");
-    auto *swatch = child<ColorLabel>(module, "label_5");
-    const QColor before = swatch->color();
-    QTest::mouseClick(square, Qt::LeftButton, {}, {300, 0});
-    QCOMPARE(swatch->color(), before);
-    QTest::mousePress(swatch, Qt::LeftButton);
-    QTest::mouseClick(square, Qt::LeftButton, {}, {300, 200});
-    QCOMPARE(swatch->color(), QColor(Qt::black));
-    QCOMPARE(color, QList<QVariantList>({{QColor(Qt::red), 8}, {QColor(Qt::black), 8}}));
-    QVERIFY(child<QWidget>(module, "labelTitleL1")->isHidden());
-    QVERIFY(child<QWidget>(module, "checkBoxSingle")->isHidden());
-}
-
-void TestEffects::sideLightBlock()
+void TestLightControls::sideLightBlock()
 {
     ModuleEfColor module;
     QSignalSpy side(&module, &ModuleEfColor::onSetSideLed);
@@ -185,7 +251,7 @@ void TestEffects::sideLightBlock()
     QCOMPARE(side.size(), 6);
 }
 
-void TestEffects::sideLightReply()
+void TestLightControls::sideLightReply()
 {
     // The block that a click on brightness 2 sends after the reply.
     const auto blockAfter = [](const char *reply) {
@@ -203,7 +269,7 @@ void TestEffects::sideLightReply()
         QCOMPARE(blockAfter(broken), "00 00 00 02 07 ff ff ff 00 00");
 }
 
-void TestEffects::pickedColourIsSentAfterAPause()
+void TestLightControls::pickedColourIsSentAfterAPause()
 {
     ModuleEfColor module;
     child<QAbstractButton>(module, "pushButtonCol1")->click();
@@ -220,5 +286,5 @@ void TestEffects::pickedColourIsSentAfterAPause()
     QCOMPARE(lastBlock(side), QByteArray("00 00 00 00 08 ff 00 00 00 00"));
 }
 
-QTEST_MAIN(TestEffects)
-#include "tst_effects.moc"
+QTEST_MAIN(TestLightControls)
+#include "tst_lightcontrols.moc"

@@ -108,6 +108,13 @@ void DemoDesk::plugOnly(const QStringList &models)
         setPlugged(model, models.contains(model));
 }
 
+void DemoDesk::setDenied(const QString &model, bool denied)
+{
+    const auto device = devices.find(model.toStdString());
+    if (device != devices.end() && device->second)
+        device->second->denyOpens(denied);
+}
+
 void DemoDesk::plug(const std::string &model, bool plugged)
 {
     virtualhid::DevicePtr &device = devices[model];

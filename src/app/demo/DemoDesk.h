@@ -32,6 +32,9 @@ public:
     void setPlugged(const QString &model, bool plugged);
     /// Leaves exactly these models plugged in.
     void plugOnly(const QStringList &models);
+    /// The next opens of a plugged model fail for want of permission, or succeed again. Unknown ones change
+    /// nothing.
+    void setDenied(const QString &model, bool denied);
     /// A finger holds a key of all plugged keyboards at the bottom for a few seconds. False for a code that
     /// no key has.
     bool holdKey(int code);

@@ -42,6 +42,7 @@ private:
     void planPages();
     void planTray();
     void planOtherDevices();
+    void planTrouble();
     void planBoard();
     void planEnd();
     void next();

@@ -4,7 +4,6 @@
 #include "DemoHands.h"
 #include "DemoTour.h"
 #include "DialogDeviceConnect.h"
-#include "FrameDeviceShow.h"
 #include "HubWindow.h"
 #include "Languages.h"
 #include "ModuleLangMenu.h"
@@ -12,26 +11,31 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QStackedWidget>
 
 namespace {
 
 constexpr int RainbowWave = 4; ///< effect number
+constexpr int CardPage = 0;
 constexpr int SiblingPage = 1;
 constexpr int NativePage = 2;
-const qsizetype AllCards = DemoDesk::modelsWithCard().size();
+const int AllDevices = int(DemoDesk::modelsWithCard().size());
 
 int pageNumber()
 {
     return hubWindow()->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"))->currentIndex();
 }
 
-qsizetype visibleCards()
+/// How many devices are there, by the hub's own count; cards of those that went may still show.
+int devicesThere()
 {
-    const auto cards = hubWindow()->findChildren<FrameDeviceShow *>();
-    return std::count_if(cards.begin(), cards.end(), [](const auto *card) { return card->isVisible(); });
+    const auto *count = hubWindow()->findChild<QLabel *>(QStringLiteral("labelInfo0"));
+    static const QRegularExpression Number(QStringLiteral("\\d+"));
+    return Number.match(count->text()).captured().toInt();
 }
 
 DialogDeviceConnect *connection()
@@ -57,14 +61,14 @@ void DemoTour::planCards()
     if (!language.isEmpty())
         planLanguage(language);
     picture(QStringLiteral("splash"));
-    waitFor(QStringLiteral("the cards"), [] { return visibleCards() == AllCards; });
+    waitFor(QStringLiteral("the cards"), [] { return devicesThere() == AllDevices; });
     picture(QStringLiteral("cards"));
     act([this] { desk->setPlugged(QStringLiteral("wired-300"), false); });
     waitFor(QStringLiteral("the card of the pulled keyboard to go"),
-            [] { return visibleCards() == AllCards - 1; });
+            [] { return devicesThere() == AllDevices - 1; });
     picture(QStringLiteral("cards-one-pulled"));
     act([this] { desk->setPlugged(QStringLiteral("wired-300"), true); });
-    waitFor(QStringLiteral("its card to come back"), [] { return visibleCards() == AllCards; });
+    waitFor(QStringLiteral("its card to come back"), [] { return devicesThere() == AllDevices; });
 }
 
 void DemoTour::planLanguage(const QString &locale)
@@ -136,7 +140,7 @@ void DemoTour::planOtherDevices()
 {
     actOn(QStringLiteral("label8"));
     act([this] { desk->plugOnly({QStringLiteral("bluetooth")}); });
-    waitFor(QStringLiteral("the card of the wireless keyboard"), [] { return visibleCards() == 1; });
+    waitFor(QStringLiteral("the card of the wireless keyboard"), [] { return devicesThere() == 1; });
     actOn(QStringLiteral("FrameDeviceShow"));
     waitFor(QStringLiteral("its page"), [] { return pageNumber() == NativePage; });
     waitFor(QStringLiteral("the read over the air to begin"), [] { return connection()->isReadingAll(); });
@@ -144,10 +148,12 @@ void DemoTour::planOtherDevices()
     actOn(QStringLiteral("label1"));
     picture(QStringLiteral("wireless"));
     act([this] { desk->plugOnly({}); });
-    waitFor(QStringLiteral("the last card to go"), [] { return pageNumber() == 0 && visibleCards() == 0; });
+    waitFor(QStringLiteral("the last keyboard to go"), [] { return pageNumber() == CardPage; });
+    actOn(QStringLiteral("."));
     picture(QStringLiteral("no-keyboard"));
+    planTrouble();
     act([this] { desk->plugOnly({QStringLiteral("cloud")}); });
-    waitFor(QStringLiteral("the only card"), [] { return visibleCards() == 1; });
+    waitFor(QStringLiteral("its card"), [] { return devicesThere() == 1; });
     picture(QStringLiteral("cards-one"));
     actOn(QStringLiteral("FrameDeviceShow"));
     waitFor(QStringLiteral("the page of the sibling driver"), [] { return pageNumber() == SiblingPage; });
@@ -155,9 +161,28 @@ void DemoTour::planOtherDevices()
         actOn(QStringLiteral("."));
     picture(QStringLiteral("sibling"));
     act([this] { desk->plugOnly({}); });
-    waitFor(QStringLiteral("the sibling's device to go"), [] { return pageNumber() == 0; });
+    waitFor(QStringLiteral("the sibling's device to go"), [] { return pageNumber() == CardPage; });
     act([this] { desk->plugOnly(DemoDesk::modelsWithCard()); });
-    waitFor(QStringLiteral("all the cards"), [] { return pageNumber() == 0 && visibleCards() == AllCards; });
+    waitFor(QStringLiteral("all the cards"),
+            [] { return pageNumber() == CardPage && devicesThere() == AllDevices; });
+}
+
+/// A keyboard that may not be opened: on its card, and on the page that a press on the card leads to.
+void DemoTour::planTrouble()
+{
+    const QString model = QStringLiteral("wired-300");
+    act([this, model] { desk->plugOnly({model}); });
+    waitFor(QStringLiteral("the card of a keyboard"), [] { return devicesThere() == 1; });
+    act([this, model] { desk->setDenied(model, true); });
+    actOn(QStringLiteral("FrameDeviceShow"));
+    waitFor(QStringLiteral("the page of that keyboard"), [] { return pageNumber() == NativePage; });
+    picture(QStringLiteral("page-denied"));
+    actOn(QStringLiteral("label8"));
+    actOn(QStringLiteral("pushButtonScan"));
+    for (int i = 0; i < 4; ++i)
+        actOn(QStringLiteral("."));
+    picture(QStringLiteral("cards-denied"));
+    act([this, model] { desk->setDenied(model, false); });
 }
 
 /// The demo's own windows come alone, so that they cover nothing of the other pictures.

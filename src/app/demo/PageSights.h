@@ -27,7 +27,7 @@ struct PageSight
 };
 
 constexpr std::array PageSights{
-    PageSight{"home", "label1"},
+    PageSight{"home", "label1 . . ."},
     PageSight{"home-effect", "+04 comboBoxPic=2 frameLEDBright/horizontalSlider=3"},
     PageSight{"home-colour", "tabWidget:1"},
     PageSight{"home-strip", "tabWidget:2 pushButton2 pushButtonCol1 radioButtonL3 radioButtonS2"},
@@ -60,8 +60,9 @@ constexpr std::array PageSights{
     PageSight{"keys-options", "pushButtonSet3"},
     PageSight{"keys-fn", "pushButtonSet4 ?3A"},
     PageSight{"magnetic-travel",
-              "label3 pushButtonSet0 @1A @04 @16 @07 frameLinear/lineEditValue1=0.8 pushButtonSetRT"},
-    PageSight{"magnetic-rapid", "checkBoxFullRT checkBoxRTPress frame1/lineEditValue1=0.3 . pushButtonSetRT"},
+              "label3 pushButtonSet0 @1A @04 @16 @07 frameLinear/lineEditValue1=0.8 pushButtonSetRT . . ."},
+    PageSight{"magnetic-rapid",
+              "checkBoxFullRT checkBoxRTPress frame1/lineEditValue1=0.3 . pushButtonSetRT . . ."},
     PageSight{"magnetic-dead-zones", "pushButtonSet1 @1A @04 @16 @07"},
     PageSight{"magnetic-switches", "pushButtonSet2 pushButtonMT6 @1A @04 @16 @07"},
     PageSight{"magnetic-stabilisation", "pushButtonSet3"},
@@ -69,7 +70,8 @@ constexpr std::array PageSights{
     PageSight{"magnetic-testing", "checkBoxKeytest0 checkBoxKeytest1 ~WASD *1A"},
     PageSight{"light-empty", "checkBoxKeytest0 checkBoxKeytest1 label5"},
     PageSight{"light-picker", "<labelColor labelColor . lineEditR=255 lineEditG=60 lineEditB=0"},
-    PageSight{"light", "DialogColorPicker/pushButton @1A @04 @16 @07 lineEditName=WASD pushButtonSave"},
+    PageSight{"light",
+              "DialogColorPicker/pushButton @1A @04 @16 @07 lineEditName=WASD pushButtonSave . . . . . ."},
     PageSight{"light-question", "!tableView[0,2]"},
     PageSight{"calibration-guide", "^ !pushButtonFixline"},
     PageSight{"calibration", "!pushButtonStart *29 *3A *3B *1E *1F *14 *1A *08 *04 *16 *07 . ."},

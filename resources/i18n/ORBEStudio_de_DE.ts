@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Untere Totzone</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Weg oben, der nichts bewirkt; gegen versehentliche Anschläge</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Weg unten, der nichts bewirkt; gegen Flattern einer gehaltenen Taste</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>Wie oft pro Sekunde die Tastatur an den Computer meldet; je höher, desto weniger Latenz</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>Zeit ohne Tastendruck, bis die Beleuchtung ausgeht</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>Zeit ohne Tastendruck, bis die Tastatur in den Tiefschlaf geht; das spart Akku</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>Eine höhere Stufe verhindert Doppelanschläge besser, erhöht aber die Latenz</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Design gespeichert</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Speichert die gezeigten Farben in dieser Ebene der Tastatur</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Zeigt die Farben, die die Tastatur in dieser Ebene hat</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Zeichnet Tasten und Maustasten auf, bis erneut gedrückt wird</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Setzt jede Verzögerung auf die Zahl rechts</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>Länger gehalten führt die Taste ihre Funktion für „Halten“ aus</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ Aus: Rapid Trigger endet, sobald die Taste über den Auslösepunkt steigt</trans
     <message>
         <source>设置</source>
         <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>Ein Druck um diese Strecke löst erneut aus, wo die Taste auch steht; kleiner ist empfindlicher</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>Ein Anheben um diese Strecke setzt die Taste zurück, wo sie auch steht; kleiner ist empfindlicher</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>Wie tief eine Taste gedrückt wird, bis sie auslöst</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>Wie weit eine Taste hochkommt, bis sie zurücksetzt</translation>
     </message>
 </context>
 <context>

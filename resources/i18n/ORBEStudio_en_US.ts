@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Bottom dead zone</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Travel at the top that does nothing, against accidental presses</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Travel at the bottom that does nothing, against flutter of a key held down</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>How many times a second the keyboard reports to the computer; higher means less latency</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>How long without a key press until the backlight turns off</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>How long without a key press until the keyboard goes into deep sleep, which saves battery</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>A higher level prevents double presses better, but adds latency</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Design saved</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Stores the colors shown in this layer of the keyboard</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Shows the colors that the keyboard holds in this layer</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>bytes</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Records keys and mouse buttons until it is pressed again</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Sets every delay to the number on the right</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>A key held longer than this does its “Hold” function</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ Off: Rapid Trigger ends when the key rises past its actuation point</translation
     <message>
         <source>设置</source>
         <translation>Apply</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>A press by this distance actuates again, wherever the key is; smaller is more sensitive</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>A lift by this distance resets the key, wherever it is; smaller is more sensitive</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>How far down a key goes before it actuates</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>How far up a key comes before it resets</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Zone morte basse</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Course sans effet en haut, contre les appuis involontaires</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Course sans effet en bas, contre les vibrations d’une touche enfoncée</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>Nombre de rapports par seconde envoyés à l’ordinateur&#xa0;; plus il est élevé, plus la latence est faible</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>Durée sans appui avant l’extinction du rétroéclairage</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>Durée sans appui avant la veille profonde, qui économise la batterie</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>Un niveau plus élevé évite mieux les doubles frappes, mais ajoute de la latence</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Création enregistrée</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Enregistre les couleurs affichées dans cette couche du clavier</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Affiche les couleurs que contient cette couche du clavier</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>octets</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Enregistre les touches et les boutons de souris jusqu’au prochain appui</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Règle tous les délais sur la valeur à droite</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>Maintenue plus longtemps, la touche exécute sa fonction «&#xa0;Maintien&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ Désactivé&#xa0;: le Rapid Trigger s’arrête quand la touche repasse au-dessu
     <message>
         <source>设置</source>
         <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>Un appui de cette distance réactive la touche où qu’elle soit&#xa0;; plus petit, plus sensible</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>Une remontée de cette distance relâche la touche où qu’elle soit&#xa0;; plus petit, plus sensible</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>Profondeur à laquelle la touche s’active</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>Hauteur à laquelle la touche se relâche</translation>
     </message>
 </context>
 <context>

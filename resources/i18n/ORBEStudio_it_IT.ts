@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Zona morta inferiore</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Corsa in alto senza effetto, contro le pressioni accidentali</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Corsa in basso senza effetto, contro le oscillazioni del tasto premuto</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>Quante volte al secondo la tastiera comunica con il computer; più è alto, minore è la latenza</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>Tempo senza premere tasti dopo il quale la retroilluminazione si spegne</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>Tempo senza premere tasti prima della sospensione profonda, che risparmia batteria</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>Un livello più alto evita meglio le doppie pressioni, ma aumenta la latenza</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Lavoro salvato</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Salva i colori mostrati in questo livello della tastiera</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Mostra i colori che la tastiera ha in questo livello</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>byte</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Registra tasti e pulsanti del mouse fino alla pressione successiva</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Imposta tutti i ritardi sul valore a destra</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>Tenuto più a lungo, il tasto esegue la funzione «Tieni»</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ Disattivo: il Rapid Trigger termina quando il tasto risale oltre il punto di att
     <message>
         <source>设置</source>
         <translation>Applica</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>Una pressione di questa distanza riattiva il tasto ovunque sia; più piccola è, più è sensibile</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>Un sollevamento di questa distanza rilascia il tasto ovunque sia; più piccola è, più è sensibile</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>Di quanto deve scendere un tasto prima di attivarsi</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>Di quanto deve risalire un tasto prima di rilasciarsi</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>下部デッドゾーン</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>上端の反応しない範囲。誤入力を防ぎます</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>下端の反応しない範囲。押し切ったときのぶれを防ぎます</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>キーボードが1 秒間にPCへ報告する回数。高いほど遅延が小さくなります</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>キー操作がないときにバックライトが消えるまでの時間</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>キー操作がないときにディープスリープに入るまでの時間。電池を節約します</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>高いほどチャタリングを防ぎますが、遅延が増えます</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>作品を保存しました</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>表示中の色をキーボードのこのレイヤーに保存します</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>キーボードのこのレイヤーの色を表示します</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>バイト</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>キーとマウスボタンを記録します。もう一度押すと終了します</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>すべての遅延を右の値にします</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>これより長く押すと「ホールド」の機能になります</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ B</translation>
     <message>
         <source>设置</source>
         <translation>適用</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>戻した位置からこの距離だけ押すと再び入力されます。小さいほど敏感です</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>押した位置からこの距離だけ戻すと入力が切れます。小さいほど敏感です</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>キーがどこまで沈むと入力されるか</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>キーがどこまで戻ると入力が切れるか</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>하단 데드존</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>윗부분의 반응하지 않는 구간으로, 오입력을 막습니다</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>아랫부분의 반응하지 않는 구간으로, 끝까지 누를 때의 떨림을 막습니다</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1분</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>키보드가 1초에 PC로 보고하는 횟수입니다. 높을수록 지연이 줄어듭니다</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>키 입력이 없을 때 백라이트가 꺼지기까지의 시간</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>키 입력이 없을 때 깊은 절전에 들어가기까지의 시간입니다. 배터리를 아낍니다</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>높을수록 중복 입력을 잘 막지만 지연이 늘어납니다</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>작품을 저장했습니다</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>지금 색을 키보드의 이 레이어에 저장합니다</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>키보드의 이 레이어에 있는 색을 보여 줍니다</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>바이트</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>키와 마우스 버튼을 녹화합니다. 다시 누르면 끝납니다</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>모든 지연을 오른쪽 값으로 맞춥니다</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>확인</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>이보다 오래 누르면 ‘홀드’ 기능이 실행됩니다</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ B</translation>
     <message>
         <source>设置</source>
         <translation>적용</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>뗀 위치에서 이 거리만큼 누르면 다시 입력됩니다. 작을수록 민감합니다</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>누른 위치에서 이 거리만큼 떼면 해제됩니다. 작을수록 민감합니다</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>키가 얼마나 눌리면 입력되는지</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>키가 얼마나 올라오면 해제되는지</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Zona morta inferior</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Curso no topo que não faz nada, contra toques acidentais</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Curso no fundo que não faz nada, contra oscilações com a tecla premida</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>Quantas vezes por segundo o teclado comunica com o computador; mais alto significa menos latência</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>Tempo sem premir teclas até a retroiluminação se desligar</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>Tempo sem premir teclas até o teclado entrar em suspensão profunda, que poupa bateria</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>Um nível mais alto evita melhor os toques duplos, mas aumenta a latência</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Trabalho guardado</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Guarda as cores mostradas nesta camada do teclado</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Mostra as cores que o teclado tem nesta camada</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>bytes</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Grava teclas e botões do rato até ser premido de novo</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Define todos os atrasos com o valor à direita</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>Manter a tecla mais tempo do que isto executa a função «Manter»</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ Desligado: o Rapid Trigger termina quando a tecla sobe acima do ponto de atuaç�
     <message>
         <source>设置</source>
         <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>Premir esta distância, a partir de qualquer posição, volta a atuar; menor é mais sensível</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>Levantar esta distância, a partir de qualquer posição, liberta a tecla; menor é mais sensível</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>Até onde a tecla desce antes de atuar</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>Até onde a tecla sobe antes de se libertar</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Нижняя мёртвая зона</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Участок вверху хода без срабатывания — против случайных нажатий</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Участок внизу хода без реакции — против дребезга удерживаемой клавиши</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 мин</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>Сколько раз в секунду клавиатура передаёт данные компьютеру: чем чаще, тем меньше задержка</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>Через сколько времени без нажатий гаснет подсветка</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>Через сколько времени без нажатий клавиатура засыпает; это экономит заряд</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>Чем выше уровень, тем надёжнее защита от двойных нажатий, но тем больше задержка</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Работа сохранена</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Записывает показанные цвета в этот слой клавиатуры</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Показывает цвета, записанные в этом слое клавиатуры</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>байт</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Записывает клавиши и кнопки мыши до повторного нажатия</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Делает все задержки равными числу справа</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>ОК</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>Если держать клавишу дольше, сработает функция «Удержание»</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ B</translation>
     <message>
         <source>设置</source>
         <translation>Применить</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>Нажатие на это расстояние из любого положения снова срабатывает: чем меньше, тем чувствительнее</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>Подъём на это расстояние из любого положения отпускает клавишу: чем меньше, тем чувствительнее</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>На какой глубине срабатывает клавиша</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>На какой высоте клавиша отпускается</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Nedre dödzon</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Väg överst som inte gör något, mot oavsiktliga tryck</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Väg längst ned som inte gör något, mot fladder när tangenten hålls nere</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>Hur många gånger per sekund tangentbordet rapporterar till datorn; högre ger mindre latens</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>Tid utan tangenttryck tills bakgrundsljuset släcks</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>Tid utan tangenttryck tills tangentbordet går i djup vila, vilket sparar batteri</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>En högre nivå hindrar dubbeltryck bättre men ökar latensen</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Verket har sparats</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Sparar färgerna som visas i detta lager på tangentbordet</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Visar färgerna som tangentbordet har i detta lager</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>byte</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Spelar in tangenter och musknappar tills den trycks igen</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Sätter varje fördröjning till talet till höger</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>Hålls tangenten längre än så här utförs dess funktion för ”Håll”</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ Av: Rapid Trigger slutar när tangenten stiger över aktiveringspunkten</transla
     <message>
         <source>设置</source>
         <translation>Använd</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>Ett tryck så här långt utlöser igen var tangenten än är; mindre är känsligare</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>Ett lyft så här långt återställer tangenten var den än är; mindre är känsligare</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>Hur långt ned en tangent trycks innan den utlöses</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>Hur långt upp en tangent kommer innan den återställs</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>เดดโซนล่าง</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>ระยะด้านบนที่ไม่ตอบสนอง ป้องกันการกดพลาด</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>ระยะด้านล่างที่ไม่ตอบสนอง ป้องกันการสั่นขณะกดค้าง</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 นาที</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>จำนวนครั้งต่อวินาทีที่คีย์บอร์ดส่งข้อมูลไปยังคอมพิวเตอร์ ยิ่งสูงยิ่งหน่วงน้อย</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>ระยะเวลาที่ไม่กดปุ่มก่อนไฟพื้นหลังจะดับ</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>ระยะเวลาที่ไม่กดปุ่มก่อนเข้าสู่โหมดหลับลึก ช่วยประหยัดแบตเตอรี่</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>ระดับยิ่งสูงยิ่งป้องกันการกดซ้ำได้ดี แต่หน่วงมากขึ้น</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>บันทึกผลงานแล้ว</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>บันทึกสีที่แสดงลงเลเยอร์นี้ของคีย์บอร์ด</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>แสดงสีที่คีย์บอร์ดเก็บไว้ในเลเยอร์นี้</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>ไบต์</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>อัดปุ่มคีย์บอร์ดและเมาส์จนกว่าจะกดอีกครั้ง</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>ตั้งหน่วงเวลาทั้งหมดเป็นค่าทางขวา</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>ตกลง</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>กดค้างนานกว่านี้จะใช้ฟังก์ชัน “กดค้าง”</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ B</translation>
     <message>
         <source>设置</source>
         <translation>ใช้ค่านี้</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>กดลงระยะนี้จากตำแหน่งใดก็ได้จะทำงานอีกครั้ง ยิ่งน้อยยิ่งไว</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>ยกขึ้นระยะนี้จากตำแหน่งใดก็ได้ปุ่มจะปล่อย ยิ่งน้อยยิ่งไว</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>ความลึกที่ปุ่มต้องถูกกดก่อนจะทำงาน</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>ระยะที่ปุ่มต้องยกขึ้นก่อนจะปล่อย</translation>
     </message>
 </context>
 <context>

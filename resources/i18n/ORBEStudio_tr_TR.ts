@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Alt ölü bölge</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Üstte hiçbir şey yapmayan mesafe; yanlış basmalara karşı</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Altta hiçbir şey yapmayan mesafe; basılı tuşun titremesine karşı</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 dk</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>Klavyenin bilgisayara saniyede kaç kez bildirdiği; yükseldikçe gecikme azalır</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>Tuşa basılmadan ne kadar süre sonra arka ışığın kapanacağı</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>Tuşa basılmadan ne kadar süre sonra derin uykuya geçileceği; pil tasarrufu sağlar</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>Daha yüksek düzey çift basmayı daha iyi önler ama gecikmeyi artırır</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Çalışma kaydedildi</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Gösterilen renkleri klavyenin bu katmanına kaydeder</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Klavyenin bu katmanındaki renkleri gösterir</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>bayt</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Yeniden basılana kadar tuşları ve fare düğmelerini kaydeder</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Tüm gecikmeleri sağdaki değere ayarlar</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>Tamam</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>Tuş bundan uzun tutulursa “Basılı tut” işlevi çalışır</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ Kapalı: Rapid Trigger, tuş tetikleme noktasının üstüne çıkınca sona ere
     <message>
         <source>设置</source>
         <translation>Uygula</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>Tuş nerede olursa olsun bu kadar basmak yeniden tetikler; küçüldükçe hassaslaşır</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>Tuş nerede olursa olsun bu kadar kalkmak bırakır; küçüldükçe hassaslaşır</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>Tuşun ne kadar basılınca tetikleneceği</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>Tuşun ne kadar kalkınca bırakılmış sayılacağı</translation>
     </message>
 </context>
 <context>

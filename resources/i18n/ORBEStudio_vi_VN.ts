@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>Vùng chết dưới</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>Khoảng trên cùng không phản hồi, tránh nhấn nhầm</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>Khoảng dưới cùng không phản hồi, tránh rung khi giữ phím</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 phút</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>Số lần bàn phím báo về máy tính mỗi giây; càng cao độ trễ càng thấp</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>Sau bao lâu không nhấn phím thì tắt đèn nền</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>Sau bao lâu không nhấn phím thì bàn phím ngủ sâu để tiết kiệm pin</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>Mức càng cao càng tránh được nhấn đúp nhưng tăng độ trễ</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>Đã lưu tác phẩm</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>Lưu màu đang hiện vào lớp này của bàn phím</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>Hiện màu đang lưu trong lớp này của bàn phím</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>byte</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>Ghi phím và nút chuột cho đến khi nhấn lại</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>Đặt mọi độ trễ thành giá trị bên phải</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>Giữ phím lâu hơn mức này sẽ chạy chức năng “Giữ”</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ Tắt: Rapid Trigger kết thúc khi phím nhả lên quá điểm kích hoạt<
     <message>
         <source>设置</source>
         <translation>Áp dụng</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>Nhấn xuống khoảng này từ bất kỳ vị trí nào sẽ kích hoạt lại; càng nhỏ càng nhạy</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>Nhả lên khoảng này từ bất kỳ vị trí nào sẽ ngắt phím; càng nhỏ càng nhạy</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>Phím nhấn sâu bao nhiêu thì kích hoạt</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>Phím nhả lên bao nhiêu thì ngắt</translation>
     </message>
 </context>
 <context>

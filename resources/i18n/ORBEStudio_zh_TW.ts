@@ -71,6 +71,14 @@ B</translation>
         <source>底部死区</source>
         <translation>底部死區</translation>
     </message>
+    <message>
+        <source>按键顶部不触发的距离，可防误触</source>
+        <translation>按鍵頂部不觸發的距離，可防誤觸</translation>
+    </message>
+    <message>
+        <source>按键底部不响应的距离，可防抖动</source>
+        <translation>按鍵底部不回應的距離，可防抖動</translation>
+    </message>
 </context>
 <context>
     <name>DemoBoard</name>
@@ -151,6 +159,22 @@ B</translation>
     <message>
         <source>%1 min</source>
         <translation>%1 分鐘</translation>
+    </message>
+    <message>
+        <source>键盘每秒向电脑报告的次数，越高延迟越低</source>
+        <translation>鍵盤每秒向電腦回報的次數，越高延遲越低</translation>
+    </message>
+    <message>
+        <source>不按键多久后关闭背光</source>
+        <translation>不按鍵多久後關閉背光</translation>
+    </message>
+    <message>
+        <source>不按键多久后进入深度睡眠，可省电</source>
+        <translation>不按鍵多久後進入深度睡眠，可省電</translation>
+    </message>
+    <message>
+        <source>级别越高越能避免连击，但会增加延迟</source>
+        <translation>級別越高越能避免連擊，但會增加延遲</translation>
     </message>
 </context>
 <context>
@@ -610,6 +634,14 @@ B</translation>
         <source>作品已保存</source>
         <translation>作品已儲存</translation>
     </message>
+    <message>
+        <source>把现在的颜色写入键盘的这一层</source>
+        <translation>把現在的顏色寫入鍵盤的這一層</translation>
+    </message>
+    <message>
+        <source>显示键盘这一层里的颜色</source>
+        <translation>顯示鍵盤這一層裡的顏色</translation>
+    </message>
 </context>
 <context>
     <name>FrameMacro</name>
@@ -676,6 +708,14 @@ B</translation>
     <message>
         <source>字节</source>
         <translation>位元組</translation>
+    </message>
+    <message>
+        <source>录制键盘和鼠标按键，再次点击结束</source>
+        <translation>錄製鍵盤和滑鼠按鍵，再次點擊結束</translation>
+    </message>
+    <message>
+        <source>把所有延迟都设为右侧的值</source>
+        <translation>把所有延遲都設為右側的值</translation>
     </message>
 </context>
 <context>
@@ -1979,6 +2019,10 @@ B</translation>
         <source>确定</source>
         <translation>確定</translation>
     </message>
+    <message>
+        <source>按住超过这段时间才执行“按住”的功能</source>
+        <translation>按住超過這段時間才執行「按住」的功能</translation>
+    </message>
 </context>
 <context>
     <name>ModuleMacroManager</name>
@@ -2223,6 +2267,22 @@ B</translation>
     <message>
         <source>设置</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>抬起后再按下这段距离即再次触发，越小越灵敏</source>
+        <translation>抬起後再按下這段距離即再次觸發，越小越靈敏</translation>
+    </message>
+    <message>
+        <source>按下后抬起这段距离即释放，越小越灵敏</source>
+        <translation>按下後抬起這段距離即釋放，越小越靈敏</translation>
+    </message>
+    <message>
+        <source>按键按到多深时触发</source>
+        <translation>按鍵按到多深時觸發</translation>
+    </message>
+    <message>
+        <source>按键抬到多高时释放</source>
+        <translation>按鍵抬到多高時釋放</translation>
     </message>
 </context>
 <context>

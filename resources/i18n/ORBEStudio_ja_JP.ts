@@ -479,7 +479,7 @@ B</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>初期設定に戻す</translation>
+        <translation>初期化</translation>
     </message>
     <message>
         <source>行程校准</source>

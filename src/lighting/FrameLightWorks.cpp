@@ -115,7 +115,7 @@ void FrameLight::keepWorks()
     if (!worksFile.save(works->works()))
         return;
     if (!notice)
-        notice = new NoticeBar(this);
+        notice = new NoticeBar(ui->frameWorks);
     notice->flash(tr("作品已保存"));
 }
 

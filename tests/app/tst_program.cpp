@@ -60,7 +60,7 @@ TestProgram::Start TestProgram::startAtOnce(int count) const
         starts.push_back(start());
     const auto isRunning = [](const Start &program) { return program->state() != QProcess::NotRunning; };
     const bool oneIsLeft =
-        QTest::qWaitFor([&] { return std::ranges::count_if(starts, isRunning) <= 1; }, 4000 + 2000 * count);
+        QTest::qWaitFor([&] { return std::ranges::count_if(starts, isRunning) <= 1; }, 10000 + 5000 * count);
     const bool othersEndedWell = std::ranges::all_of(starts, [&](const Start &program) {
         return isRunning(program) ||
                (program->exitStatus() == QProcess::NormalExit && program->exitCode() == 0);

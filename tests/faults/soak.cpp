@@ -386,7 +386,7 @@ bool User::judge() const
         std::printf("%-14s %8ld -> %8ld  (%+ld, at most %+ld)  %s\n", limit.name, before, after,
                     after - before, limit.most, isGood ? "flat" : "GROWS");
     }
-    std::printf("%d simulated hours, %d connects, %zu scans asked for, %d complaints: %s\n", quarters / 4,
+    std::printf("%g simulated hours, %d connects, %zu scans asked for, %d complaints: %s\n", quarters / 4.0,
                 connects, stocks.size() * ScansPerQuarter, complaints, isFlat ? "flat" : "NOT FLAT");
     return isFlat;
 }
@@ -409,7 +409,7 @@ int main(int argc, char **argv)
         qputenv(variable, QFile::encodeName(home.path()));
     qputenv("QT_QPA_PLATFORM", "offscreen");
     compressedtime::begin();
-    const QString hours = QString::fromLocal8Bit(argc > 1 ? argv[1] : "1");
+    const QString hours = QString::fromLocal8Bit(argc > 1 ? argv[1] : "0.5");
     const QString csv =
         argc > 2 ? QString::fromLocal8Bit(argv[2]) : home.filePath(QStringLiteral("soak.csv"));
     AppStart start(argc, argv);

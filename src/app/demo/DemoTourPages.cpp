@@ -107,6 +107,9 @@ void DemoTour::planNativeKeyboard()
     waitFor(QStringLiteral("the read sequence to begin"), [] { return connection()->isReadingAll(); });
     picture(QStringLiteral("reading"));
     waitFor(QStringLiteral("its end"), [] { return !connection()->isReadingAll(); });
+    // The hub may read once more if something was plugged meanwhile.
+    actOn(QStringLiteral("."));
+    actOn(QStringLiteral("."));
 }
 
 void DemoTour::planPages()

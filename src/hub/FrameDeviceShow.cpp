@@ -1,5 +1,6 @@
 #include "FrameDeviceShow.h"
 
+#include "AccessibleControls.h"
 #include "DeviceBattery.h"
 #include "DeviceNameText.h"
 #include "DevicePicture.h"
@@ -62,6 +63,7 @@ FrameDeviceShow::FrameDeviceShow(QWidget *parent)
     , ui(std::make_unique<Ui::FrameDeviceShow>())
 {
     ui->setupUi(this);
+    accessible::setRole(this, QAccessible::Button);
     look::setStyleOnce(this, NormalStyle);
     ui->labelState->hide();
     auto *timer = new QTimer(this);

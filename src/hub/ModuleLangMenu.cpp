@@ -1,11 +1,14 @@
 #include "ModuleLangMenu.h"
 
+#include "FocusRing.h"
 #include "Languages.h"
 #include "Look.h"
 #include "ui_ModuleLangMenu.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
+#include <QKeyEvent>
+#include <QPainter>
 #include <QPushButton>
 
 namespace {
@@ -54,7 +57,9 @@ void ModuleLangMenu::openBelow(const QPoint &bottomLeft)
     if (!isHidden())
         return;
     setGeometry({bottomLeft + QPoint(ShiftFromButton, 0), MenuSize});
+    marked = qMax(0, buttons->checkedId());
     show();
+    activateWindow();
 }
 
 void ModuleLangMenu::selectLanguage(int index)
@@ -66,6 +71,41 @@ void ModuleLangMenu::selectLanguage(int index)
 void ModuleLangMenu::paintEvent(QPaintEvent *)
 {
     look::paintStyledBackground(this);
+    if (!isActiveWindow())
+        return;
+    QPainter painter(this);
+    constexpr int Reach = FocusRing::ReachOut;
+    const QRect place = buttons->button(marked)->geometry().adjusted(-Reach, -Reach, Reach, Reach);
+    look::drawFocusRing(painter, place, look::PillRadius);
+}
+
+// The buttons take no focus: the menu itself leads from one to the other.
+void ModuleLangMenu::keyPressEvent(QKeyEvent *event)
+{
+    const int last = int(buttons->buttons().size()) - 1;
+    switch (event->key()) {
+    case Qt::Key_Up:
+        marked = qMax(0, marked - 1);
+        break;
+    case Qt::Key_Down:
+        marked = qMin(last, marked + 1);
+        break;
+    case Qt::Key_Home:
+        marked = 0;
+        break;
+    case Qt::Key_End:
+        marked = last;
+        break;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        selectLanguage(marked);
+        break;
+    default:
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    update();
 }
 
 void ModuleLangMenu::choose(int index)

@@ -33,10 +33,12 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void choose(int index);
 
     std::unique_ptr<Ui::ModuleLangMenu> ui;
     QButtonGroup *buttons;
+    int marked = 0; ///< the language that Return would choose
 };

@@ -87,6 +87,7 @@ DialogFNPicker::DialogFNPicker(QWidget *parent)
     addMacros();
     addFunctions();
     addMouseFunctions();
+    leadTabBehind(functionGroup->buttons().constLast());
     connectControls();
     ui->spinBoxM->setAccessibleName(ui->radioButtonM1->text());
     accessible::setDefaultName(this, tr("自定义按键"));
@@ -112,6 +113,12 @@ void DialogFNPicker::addMacros()
         button->setText(name.isEmpty() ? tr("宏") + QString::number(slot + 1) : name);
         button->setToolTip(name);
         ui->gridMacros->addWidget(button, slot / MacroColumns, slot % MacroColumns);
+    }
+    QWidget *before = functionGroup->buttons().constLast();
+    for (QWidget *mode : std::initializer_list<QWidget *>{ui->radioButtonM1, ui->spinBoxM, ui->radioButtonM2,
+                                                          ui->radioButtonM3}) {
+        setTabOrder(before, mode);
+        before = mode;
     }
 }
 

@@ -17,35 +17,36 @@
 
 namespace {
 
-const QString CoverStyle = QStringLiteral(
-    "QDialog { background-color: rgba(230, 230, 230, 0.9);  border: none; border-radius: 24px;}");
+const QString CoverStyle = look::sheet(QStringLiteral(
+    "QDialog { background-color: rgba(230, 230, 230, 0.9);  border: none; border-radius: @panelRadius;}"));
 
-const QString CardStyle = QStringLiteral(
-    "#framePicker { background-color: #FFFFFF; border: 1px solid #E6E6EA; border-radius: 24px; }"
-    "QLabel { color: #222222; font-size: 14px; }"
-    "#labelBasic, #labelExtended, #labelSelect, #labelMode { font-size: 15px; font-weight: 600; }"
-    "QPushButton { border: none; border-radius: 18px; font-size: 14px; padding: 0px 16px; }"
-    "QPushButton#pushButtonOK { background-color: #6329B6; color: white; }"
-    "QPushButton#pushButtonOK:hover { background-color: #7440C0; }"
-    "QPushButton#pushButtonOK:pressed { background-color: #52209A; }"
-    "QPushButton#pushButtonCancel { background-color: #EDEDED; color: #222222; }"
-    "QPushButton#pushButtonCancel:hover { background-color: #E0E0E4; }"
+const QString CardStyle = look::sheet(QStringLiteral(
+    "#framePicker { background-color: #FFFFFF; border: 1px solid @line; border-radius: @panelRadius; }"
+    "QLabel { color: @text; font-size: @body; }"
+    "#labelBasic, #labelExtended, #labelSelect, #labelMode { font-size: @groupTitle; font-weight: 600; }"
+    "QPushButton { border: none; border-radius: 18px; font-size: @body; padding: 0px 16px; }"
+    "QPushButton#pushButtonOK { background-color: @accent; color: white; }"
+    "QPushButton#pushButtonOK:hover { background-color: @accentHover; }"
+    "QPushButton#pushButtonOK:pressed { background-color: @accentPressed; }"
+    "QPushButton#pushButtonCancel { background-color: @edit; color: @text; }"
+    "QPushButton#pushButtonCancel:hover { background-color: @controlLine; }"
     "QPushButton#pushButtonCancel:pressed { background-color: #D4D4DA; }"
-    "QRadioButton { color: #222222; font-size: 14px; spacing: 8px; min-height: 24px; }"
-    "QRadioButton::indicator { width: 14px; height: 14px; border: 2px solid #B0B0B8; border-radius: 9px;"
+    "QRadioButton { color: @text; font-size: @body; spacing: 8px; min-height: 24px; }"
+    "QRadioButton::indicator { width: 14px; height: 14px; border: 2px solid @tickLine; border-radius: 9px;"
     " background-color: white; }"
-    "QRadioButton::indicator:hover { border-color: #6329B6; }"
-    "QRadioButton::indicator:checked { width: 8px; height: 8px; border: 5px solid #6329B6; }"
-    "QRadioButton:focus { color: #6329B6; }"
-    "QSpinBox { border: 2px solid transparent; border-radius: 6px; background-color: #EDEDED; color: #222222;"
-    " font-size: 14px; padding: 0px 4px; }"
-    "QSpinBox:disabled { color: #B3B3B3; }"
+    "QRadioButton::indicator:hover { border-color: @accent; }"
+    "QRadioButton::indicator:checked { width: 8px; height: 8px; border: 5px solid @accent; }"
+    "QRadioButton:focus { color: @accent; }"
+    "QSpinBox { border: 2px solid transparent; border-radius: @editRadius; background-color: @edit; color: "
+    "@text;"
+    " font-size: @body; padding: 0px 4px; }"
+    "QSpinBox:disabled { color: @disabled; }"
     "QSpinBox::up-button, QSpinBox::down-button { width: 24px; border: none; border-radius: 4px;"
     " background: transparent; }"
-    "QSpinBox::up-button:hover, QSpinBox::down-button:hover { background-color: #E0E0E4; }"
+    "QSpinBox::up-button:hover, QSpinBox::down-button:hover { background-color: @controlLine; }"
     "QSpinBox::up-arrow { image: url(:/images/k/key-up.png); width: 10px; height: 10px; }"
     "QSpinBox::down-arrow { image: url(:/images/k/key-dpwn.png); width: 10px; height: 10px; }"
-    "QSpinBox:focus { border-color: rgba(99, 41, 182, 0.4); }");
+    "QSpinBox:focus { border-color: rgba(99, 41, 182, 0.4); }"));
 
 /// Fills a block with its keys and gives it the size that they need.
 void fillBlock(QWidget *block, keys::PickerBlock which, int keyWidth, QButtonGroup *group)
@@ -110,6 +111,23 @@ void KeyPicker::setUp(const Parts &parts, int keyWidth)
     fillBlock(parts.basicBlock, keys::PickerBlock::Basic, keyWidth, keyGroup);
     fillBlock(parts.extendedBlock, keys::PickerBlock::Extended, keyWidth, keyGroup);
     connect(keyGroup, &QButtonGroup::idClicked, this, [this](int usage) { pickKey(quint8(usage)); });
+    tabRow = {parts.slotLabels[0], parts.slotLabels[1], parts.slotLabels[2], parts.ok, parts.cancel};
+    leadTabBehind(keyGroup->buttons().constLast());
+}
+
+void KeyPicker::leadTabBehind(QWidget *last)
+{
+    QWidgetList empty;
+    for (QWidget *widget : std::as_const(tabRow)) {
+        if (widget->focusPolicy() == Qt::NoFocus) {
+            widget->setFocusPolicy(Qt::TabFocus); // else an empty place would stay where it is in the order
+            empty.append(widget);
+        }
+        setTabOrder(last, widget);
+        last = widget;
+    }
+    for (QWidget *place : std::as_const(empty))
+        place->setFocusPolicy(Qt::NoFocus);
 }
 
 void KeyPicker::clearPicked()

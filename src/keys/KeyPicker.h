@@ -4,6 +4,7 @@
 
 #include <array>
 #include <QDialog>
+#include <QWidgetList>
 
 class PickerSlot;
 class QButtonGroup;
@@ -49,6 +50,9 @@ protected:
     /// Takes over what every picker has in its form. The keys are \a keyWidth pixels wide.
     void setUp(const Parts &parts, int keyWidth);
 
+    /// Has Tab come by the row below all else, with OK and Cancel, after this control.
+    void leadTabBehind(QWidget *last);
+
     /// Forgets what was picked, and shows that.
     virtual void clearPicked();
     /// Takes a key into the first place that is free; does nothing if none is.
@@ -69,4 +73,5 @@ private:
 
     QButtonGroup *keyGroup = nullptr;
     std::array<PickerSlot *, SlotCount> slotLabels{};
+    QWidgetList tabRow; ///< below all else, from left to right
 };

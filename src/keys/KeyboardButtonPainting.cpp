@@ -28,6 +28,8 @@ constexpr QColor FirstOnDark{0xFF, 0x9A, 0xF5};
 constexpr QColor Second{0x00, 0x80, 0x80};
 constexpr QColor SecondOnDark{0x7D, 0xE8, 0xE8};
 
+constexpr int HoverDarker = 135; ///< per cent, on the darker ground of a key that the pointer is on
+
 /// Draws one line of text, narrowed as far as the rectangle makes it necessary.
 void drawFitting(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const QString &text)
 {
@@ -157,9 +159,9 @@ void KeyboardButton::paintHalves(QPainter &painter, bool onDark) const
 {
     const QRectF area = QRectF(rect()).adjusted(CaptionMargin, CaptionMargin, -CaptionMargin, -CaptionMargin);
     const qreal height = area.height() / 2 - PastMiddle;
-    painter.setPen(onDark ? FirstOnDark : First);
+    painter.setPen(onDark ? FirstOnDark : underMouse() ? First.darker(HoverDarker) : First);
     drawFitting(painter, {area.left(), area.top(), area.width(), height}, Qt::AlignCenter, halves[0]);
-    painter.setPen(onDark ? SecondOnDark : Second);
+    painter.setPen(onDark ? SecondOnDark : underMouse() ? Second.darker(HoverDarker) : Second);
     drawFitting(painter, {area.left(), area.bottom() - height, area.width(), height}, Qt::AlignCenter,
                 halves[1]);
 }
@@ -171,9 +173,9 @@ void KeyboardButton::paintCorners(QPainter &painter, bool onDark) const
     const qreal height = area.height() / 2 - PastMiddle;
     const qreal right = area.right() - width;
     const qreal lower = area.bottom() - height;
-    painter.setPen(onDark ? FirstOnDark : First);
+    painter.setPen(onDark ? FirstOnDark : underMouse() ? First.darker(HoverDarker) : First);
     drawFitting(painter, {area.left(), lower, width, height}, Qt::AlignLeft | Qt::AlignVCenter, corners[0]);
-    painter.setPen(onDark ? SecondOnDark : Second);
+    painter.setPen(onDark ? SecondOnDark : underMouse() ? Second.darker(HoverDarker) : Second);
     constexpr Qt::Alignment AtRight = Qt::AlignRight | Qt::AlignVCenter;
     if (hasExtra)
         drawFitting(painter, {right, area.top(), width, height}, Qt::AlignRight | Qt::AlignTop, extra[0]);

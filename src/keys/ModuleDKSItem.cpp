@@ -1,5 +1,6 @@
 #include "ModuleDKSItem.h"
 
+#include "AccessibleControls.h"
 #include "FocusRing.h"
 #include "Look.h"
 #include "PictureLabel.h"
@@ -45,6 +46,7 @@ ModuleDKSItem::ModuleDKSItem(QWidget *parent)
     switches = {ui->labelSwitch1, ui->labelSwitch2, ui->labelSwitch3, ui->labelSwitch4};
     for (size_t point = 0; point < switches.size(); ++point) {
         switches[point]->installEventFilter(this);
+        accessible::setRole(switches[point], QAccessible::CheckBox);
         FocusRing::follow(switches[point], SwitchRadius);
         showSwitch(point);
     }
@@ -77,6 +79,7 @@ void ModuleDKSItem::showSwitch(size_t point)
 {
     switches[point]->setPicture(states[point] ? SetPicture : ClearPicture);
     switches[point]->setAccessibleDescription(states[point] ? tr("已开启") : tr("关闭"));
+    accessible::setOn(switches[point], states[point]);
 }
 
 bool ModuleDKSItem::eventFilter(QObject *watched, QEvent *event)

@@ -1,5 +1,6 @@
 #include "ModuleDKSTab.h"
 
+#include "AccessibleControls.h"
 #include "DialogDeviceConnect.h"
 #include "FocusRing.h"
 #include "Look.h"
@@ -50,8 +51,10 @@ ModuleDKSTab::ModuleDKSTab(QWidget *parent)
     for (QLabel *label : std::initializer_list<QLabel *>{ui->labelPress1, ui->labelPress3, ui->labelRelease2,
                                                          ui->labelRelease4})
         label->installEventFilter(this);
-    FocusRing::follow(ui->labelPress1, TravelRadius);
-    FocusRing::follow(ui->labelRelease2, TravelRadius);
+    for (QLabel *travel : {ui->labelPress1, ui->labelRelease2}) {
+        FocusRing::follow(travel, TravelRadius);
+        accessible::setRole(travel, QAccessible::Button);
+    }
     FocusRing::follow(ui->pushButton_OKDKS, look::PillRadius);
     showTips();
     connect(ui->pushButton_OKDKS, &QPushButton::clicked, this, &ModuleDKSTab::save);

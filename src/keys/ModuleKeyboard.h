@@ -109,7 +109,7 @@ private:
     void endBand();
     KeyboardButton *keyAt(const QPoint &position) const;
     void offerAction(KeyboardButton *button);
-    void moveFocus(int key);
+    void moveFocus(int key, bool extending);
     void rove(KeyboardButton *button);
     void keepTabStop();
 

@@ -147,7 +147,7 @@ void ModuleKeyboard::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Right:
     case Qt::Key_Up:
     case Qt::Key_Down:
-        moveFocus(event->key());
+        moveFocus(event->key(), event->modifiers() & Qt::ShiftModifier);
         return;
     default:
         break;
@@ -159,7 +159,8 @@ void ModuleKeyboard::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void ModuleKeyboard::moveFocus(int key)
+/// Moves the focus to the next key in a direction; extending, both keys join those that are checked.
+void ModuleKeyboard::moveFocus(int key, bool extending)
 {
     const bool sideways = key == Qt::Key_Left || key == Qt::Key_Right;
     const int direction = key == Qt::Key_Left || key == Qt::Key_Up ? -1 : 1;
@@ -179,6 +180,11 @@ void ModuleKeyboard::moveFocus(int key)
     }
     if (!nearest)
         return;
+    if (extending && nearest->isCheckable() && SelectionLimit > 1) {
+        tabStop->setChecked(true);
+        nearest->setChecked(true);
+        Q_EMIT onSelect();
+    }
     rove(nearest);
     nearest->setFocus(Qt::TabFocusReason);
 }

@@ -1,5 +1,6 @@
 #include "PickerSlot.h"
 
+#include "AccessibleControls.h"
 #include "KeyStyle.h"
 #include "Look.h"
 
@@ -13,7 +14,6 @@ const QString EmptyText = QStringLiteral("--");
 constexpr int Height = 36;
 constexpr int SmallestWidth = 84;
 constexpr int SmallestText = 11; ///< pixels; what needs more room than that is cut
-constexpr QColor HoverBackground{0xF0, 0xE8, 0xFB};
 
 } // namespace
 
@@ -22,6 +22,7 @@ PickerSlot::PickerSlot(QWidget *parent)
 {
     setTextFormat(Qt::PlainText);
     setAttribute(Qt::WA_Hover);
+    accessible::setRole(this, QAccessible::Button);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
@@ -74,7 +75,7 @@ void PickerSlot::paintEvent(QPaintEvent *)
     const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     if (filled) {
         painter.setPen(QPen(look::KeyModifiedBorder, 1));
-        painter.setBrush(underMouse() ? HoverBackground : look::KeyModified);
+        painter.setBrush(underMouse() ? look::TintPressed : look::KeyModified);
     } else {
         painter.setPen(QPen(look::TextDisabled, 1, Qt::DashLine));
     }

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cmath>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSlider>
 
 using namespace std::chrono_literals;
@@ -32,6 +33,11 @@ SliderEdit::SliderEdit(QSlider *followed, QLineEdit *shown, Format formatText, P
     connect(edit, &QLineEdit::textChanged, &timer, qOverload<>(&QTimer::start));
     connect(&timer, &QTimer::timeout, this, &SliderEdit::takeText);
     connect(edit, &QLineEdit::editingFinished, this, &SliderEdit::endTyping);
+    for (const auto &[key, action] : {std::pair{Qt::Key_Up, QSlider::SliderSingleStepAdd},
+                                      std::pair{Qt::Key_Down, QSlider::SliderSingleStepSub}}) {
+        connect(new QShortcut(key, edit, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, slider,
+                [this, action = action] { slider->triggerAction(action); });
+    }
 }
 
 void SliderEdit::showValue()

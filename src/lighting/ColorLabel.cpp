@@ -1,5 +1,6 @@
 #include "ColorLabel.h"
 
+#include "AccessibleControls.h"
 #include "FocusRing.h"
 #include "Look.h"
 
@@ -33,6 +34,8 @@ ColorLabel::ColorLabel(QWidget *parent)
 {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
+    accessible::setRole(this, QAccessible::RadioButton);
+    accessible::setOn(this, false);
     FocusRing::follow(this, look::PillRadius);
 }
 
@@ -59,8 +62,11 @@ void ColorLabel::select()
     if (!parent())
         return;
     ColorLabel *former = std::exchange(selection()[parent()], this);
-    if (former)
+    if (former) {
+        accessible::setOn(former, false);
         former->update();
+    }
+    accessible::setOn(this, true);
     update();
 }
 

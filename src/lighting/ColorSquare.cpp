@@ -100,6 +100,7 @@ ColorSquare::ColorSquare(QWidget *parent)
 {
     setCursor(Qt::CrossCursor);
     setFocusPolicy(Qt::StrongFocus);
+    accessible::setRole(this, QAccessible::ColorChooser);
 }
 
 void ColorSquare::setColor(const QColor &color)

@@ -1,5 +1,6 @@
 #include "DialogColorPicker.h"
 
+#include "AccessibleControls.h"
 #include "FocusRing.h"
 #include "LightingLog.h"
 #include "LightStyle.h"
@@ -48,7 +49,10 @@ DialogColorPicker::DialogColorPicker(QWidget *parent)
     setAttribute(Qt::WA_TranslucentBackground);
     ui->labelPick->setPixmap(look::picture(QStringLiteral(":/images/pickup2.png"), this));
     FocusRing::follow(ui->labelPick, look::EditRadius);
+    accessible::setRole(ui->labelPick, QAccessible::Button);
     FocusRing::follow(ui->pushButton, look::PillRadius);
+    ui->lineEditHex->setAccessibleName(QStringLiteral("HEX"));
+    ui->colorSquare->setAccessibleName(windowTitle());
     showNumbers();
     showColor();
     connectControls();
@@ -156,8 +160,10 @@ void DialogColorPicker::hideEvent(QHideEvent *event)
 
 void DialogColorPicker::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        ui->colorSquare->setAccessibleName(windowTitle());
+    }
     QDialog::changeEvent(event);
 }
 

@@ -2,6 +2,7 @@
 
 #include "FrameLight.h"
 
+#include "AccessibleControls.h"
 #include "DialogColorPicker.h"
 #include "DialogDeviceConnect.h"
 #include "EffectBinding.h"
@@ -92,6 +93,7 @@ void FrameLight::buildTools()
         look::picture(QStringLiteral(":/images/pickup2.png"), this)
             .scaledToHeight(int(look::SmallestTarget * devicePixelRatioF()), Qt::SmoothTransformation));
     for (QLabel *label : {ui->labelColor, ui->labelPickup}) {
+        accessible::setRole(label, QAccessible::Button);
         label->installEventFilter(this);
         FocusRing::follow(label, look::PillRadius);
     }

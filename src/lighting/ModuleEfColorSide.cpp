@@ -1,5 +1,6 @@
 // The side light's part of the colour module.
 
+#include "AccessibleControls.h"
 #include "DialogColorPicker.h"
 #include "FocusRing.h"
 #include "LightingLog.h"
@@ -54,6 +55,7 @@ void ModuleEfColor::connectSideLight()
     ui->labelPickup->setPixmap(look::picture(QStringLiteral(":/images/pickup2.png"), this));
     ui->labelPickup->installEventFilter(this);
     FocusRing::follow(ui->labelPickup, look::EditRadius);
+    accessible::setRole(ui->labelPickup, QAccessible::Button);
     showPickerControls();
 }
 

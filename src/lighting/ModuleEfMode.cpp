@@ -25,6 +25,8 @@ ModuleEfMode::ModuleEfMode(QWidget *parent)
 {
     look::setStyleOnce(this, lightstyle::Panel);
     ui->setupUi(this);
+    ui->comboBoxPic->setFocusPolicy(Qt::StrongFocus);
+    ui->comboBoxPic->installEventFilter(this);
     buildList();
     showTexts();
     connect(buttons, &QButtonGroup::idClicked, this, &ModuleEfMode::takeEffect);
@@ -48,6 +50,7 @@ void ModuleEfMode::buildList()
         buttons->addButton(button, row.id);
         ui->layoutEffects->addWidget(button, 0, Qt::AlignHCenter);
     }
+    setTabOrder(buttons->buttons().constLast(), ui->comboBoxPic);
 }
 
 void ModuleEfMode::takeEffect(int id)
@@ -94,6 +97,16 @@ void ModuleEfMode::showTexts()
     }
     ui->checkBoxEFMode->setAccessibleName(ui->labelDark->text());
     ui->comboBoxPic->setAccessibleName(ui->labelPicture->text());
+}
+
+// Who scrolls past the choice doesn't want to change it.
+bool ModuleEfMode::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Wheel && !ui->comboBoxPic->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QFrame::eventFilter(watched, event);
 }
 
 void ModuleEfMode::changeEvent(QEvent *event)

@@ -30,6 +30,7 @@ Q_SIGNALS:
     void onModeChanged(int mode, uchar option);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

@@ -105,6 +105,9 @@ MacroItem *FrameMacro::addRow(const Macro &macro)
     ui->verticalLayoutMacros->insertWidget(int(rows.size()), row);
     connect(row, &MacroItem::onOperation, this, &FrameMacro::handleRow);
     rows.append(row);
+    QWidget *above = ui->pushButtonAddMacro;
+    for (MacroItem *each : std::as_const(rows))
+        above = each->followInTabOrder(above);
     return row;
 }
 

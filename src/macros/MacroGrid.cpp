@@ -90,7 +90,7 @@ void MacroGrid::arrangeFrom(qsizetype index)
     setMinimumHeight(int(qMax<qsizetype>(0, rows * RowPitch - Spacing)));
     if (!touched && !list.isEmpty()) {
         touched = list.first();
-        touched->setFocusPolicy(Qt::StrongFocus);
+        makeStop(touched);
     }
     showInSight();
 }
@@ -110,6 +110,17 @@ void MacroGrid::showInSight()
     }
 }
 
+/// Makes a square the one that Tab comes by, where the grid stands among the page's controls.
+void MacroGrid::makeStop(MacroSquare *square)
+{
+    square->setFocusPolicy(Qt::StrongFocus);
+    QWidget *before = previousInFocusChain();
+    while (before != this && (!(before->focusPolicy() & Qt::TabFocus) || isAncestorOf(before)))
+        before = before->previousInFocusChain();
+    if (before != this)
+        setTabOrder(before, square);
+}
+
 void MacroGrid::touch(MacroSquare *square)
 {
     if (touched && touched != square) {
@@ -117,7 +128,7 @@ void MacroGrid::touch(MacroSquare *square)
         touched->setFocusPolicy(Qt::ClickFocus);
     }
     touched = square;
-    touched->setFocusPolicy(Qt::StrongFocus);
+    makeStop(touched);
 }
 
 void MacroGrid::keyPressEvent(QKeyEvent *event)

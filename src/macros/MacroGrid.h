@@ -43,6 +43,7 @@ protected:
 private:
     MacroSquare *take();
     void putAway(MacroSquare *square);
+    void makeStop(MacroSquare *square);
     void touch(MacroSquare *square);
     void showInSight();
 

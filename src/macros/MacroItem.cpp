@@ -1,5 +1,6 @@
 #include "MacroItem.h"
 
+#include "AccessibleControls.h"
 #include "FocusRing.h"
 #include "Look.h"
 #include "MacroStyle.h"
@@ -29,6 +30,7 @@ MacroItem::MacroItem(quint8 macroId, const QString &macroName, QWidget *parent)
 {
     ui->setupUi(this);
     FocusRing::follow(this, RowRadius);
+    accessible::setRole(this, QAccessible::ListItem);
     look::setStyleOnce(ui->lineEditName, macrostyle::RowEdit);
     ui->lineEditName->setMaxLength(ModuleMacroManager::LongestName);
     ui->lineEditName->hide();
@@ -48,10 +50,21 @@ MacroItem::~MacroItem() = default;
 void MacroItem::setSelected(bool on)
 {
     selected = on;
+    accessible::setOn(this, on);
     look::setStyleOnce(this, on ? macrostyle::SelectedRow : macrostyle::Row);
     ui->toolButtonRename->setIcon(rowIcon("rename", on));
     ui->toolButtonDelete->setIcon(rowIcon("delete", on));
     showButtons();
+}
+
+QWidget *MacroItem::followInTabOrder(QWidget *before)
+{
+    for (QWidget *widget : std::initializer_list<QWidget *>{this, ui->lineEditName, ui->toolButtonRename,
+                                                            ui->toolButtonDelete}) {
+        setTabOrder(before, widget);
+        before = widget;
+    }
+    return before;
 }
 
 void MacroItem::showTips()

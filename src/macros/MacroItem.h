@@ -26,6 +26,8 @@ public:
     /// The name; after a rename the one that was typed. It is cut in the row where it is too long.
     const QString &text() const { return name; }
     void setSelected(bool on);
+    /// Has Tab come by the row after a control that stands above it; gives the row's last control.
+    QWidget *followInTabOrder(QWidget *before);
 
 Q_SIGNALS:
     void onOperation(int operation, QWidget *from);

@@ -1,5 +1,7 @@
 #include "MacroSquare.h"
 
+#include "AccessibleControls.h"
+#include "FocusRing.h"
 #include "Look.h"
 #include "MacroSquareText.h"
 #include "MacroStyle.h"
@@ -42,6 +44,7 @@ MacroSquare::MacroSquare(QWidget *parent)
     setObjectName(QStringLiteral("MacroSquare"));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::ClickFocus);
+    accessible::setRole(this, QAccessible::ListItem);
 }
 
 void MacroSquare::setEvent(quint8 type, quint16 value, bool down, const QString &text)
@@ -51,7 +54,8 @@ void MacroSquare::setEvent(quint8 type, quint16 value, bool down, const QString 
     event = {type, down, value, text};
     spinX = value & 0xFF;
     spinY = value >> 8;
-    selected = false;
+    setSelected(false);
+    setAccessibleName(lines().join(QLatin1Char(' ')));
     resize(sideOf(type), sideOf(type));
     update();
 }
@@ -63,6 +67,7 @@ void MacroSquare::setValue(quint16 value)
 
 void MacroSquare::setSelected(bool on)
 {
+    accessible::setOn(this, on);
     if (std::exchange(selected, on) != on)
         update();
 }
@@ -134,12 +139,6 @@ void MacroSquare::keyPressEvent(QKeyEvent *key)
     }
 }
 
-void MacroSquare::focusInEvent(QFocusEvent *focus)
-{
-    setAccessibleName(lines().join(QLatin1Char(' ')));
-    QFrame::focusInEvent(focus);
-}
-
 void MacroSquare::showButtons()
 {
     if (!insertButton) {
@@ -173,6 +172,7 @@ QToolButton *MacroSquare::makeButton(const QString &picture, const QString &name
     button->setFixedSize(ButtonSize);
     button->setToolTip(name);
     button->setAccessibleName(name);
+    FocusRing::follow(button, look::PillRadius);
     connect(button, &QToolButton::clicked, this, [this, action] { Q_EMIT onAction(this, action); });
     return button;
 }
@@ -266,11 +266,14 @@ void MacroSquare::paintEvent(QPaintEvent *)
     const macrostyle::SquareColours &colours = coloursOf(event);
     QRectF ground(rect());
     if (selected || hasFocus()) {
-        const QRectF mark = ground.adjusted(1, 1, -1, -1);
-        painter.setPen(QPen(selected ? SelectedMark : look::RingColor, look::RingWidth));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(mark, Radius, Radius);
+        if (selected) {
+            painter.setPen(QPen(SelectedMark, look::RingWidth));
+            painter.drawRoundedRect(ground.adjusted(1, 1, -1, -1), Radius, Radius);
+        }
         ground.adjust(Frame, Frame, -Frame, -Frame);
+        if (hasFocus())
+            look::drawFocusRing(painter, ground.adjusted(-2, -2, 2, 2), Radius);
     }
     painter.setPen(QPen(colours.border, 1));
     painter.setBrush(colours.ground);

@@ -55,7 +55,6 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
 
 private:
     bool isEditable() const { return event.type == MacroType::Delay || event.type == MacroType::Position; }

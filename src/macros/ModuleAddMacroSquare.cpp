@@ -37,6 +37,7 @@ ModuleAddMacroSquare::ModuleAddMacroSquare()
     }
     FocusRing::follow(ui->lineEditKey, look::EditRadius);
     ui->lineEditKey->installEventFilter(this);
+    ui->lineEditKey->setAccessibleName(ui->radioButtonKey->text());
     for (QRadioButton *choice : {ui->radioButtonKey, ui->radioButtonMouse, ui->radioButtonPosition})
         connect(choice, &QRadioButton::toggled, this, &ModuleAddMacroSquare::showChoice);
     connect(ui->pushButtonOK, &QPushButton::clicked, this, [this] { end(true); });
@@ -131,9 +132,20 @@ bool ModuleAddMacroSquare::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
+void ModuleAddMacroSquare::showEvent(QShowEvent *event)
+{
+    QFrame::showEvent(event);
+    ui->lineEditKey->ensurePolished(); // which takes the colour from the style sheet
+    QPalette hint = ui->lineEditKey->palette();
+    hint.setColor(QPalette::PlaceholderText, look::Placeholder);
+    ui->lineEditKey->setPalette(hint);
+}
+
 void ModuleAddMacroSquare::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        ui->lineEditKey->setAccessibleName(ui->radioButtonKey->text());
+    }
     QFrame::changeEvent(event);
 }

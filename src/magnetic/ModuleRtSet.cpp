@@ -10,6 +10,7 @@
 #include <cmath>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QShortcut>
 
 namespace {
 
@@ -33,8 +34,9 @@ constexpr QSize CaptionSize(60, 18);
 constexpr int CaptionPixels = 12;
 constexpr QColor OffColor(0xB7, 0xB7, 0xB7);
 
-const QString Style = QStringLiteral("ModuleRtSet { background-color: #F6F6F6; border-radius: 24px; }"
-                                     "#labelTitle { color: #222222; font-size: 15px; font-weight: 600; }");
+const QString Style =
+    look::sheet(QStringLiteral("ModuleRtSet { background-color: @panel; border-radius: @panelRadius; }"
+                               "#labelTitle { color: @text; font-size: @groupTitle; font-weight: 600; }"));
 
 } // namespace
 
@@ -63,6 +65,11 @@ void ModuleRtSet::connectControls()
     });
     connect(ui->lineEdit, &QLineEdit::returnPressed, this, [this] { setValue(readText()); });
     connect(ui->checkBoxRTMode, &QAbstractButton::clicked, this, &ModuleRtSet::setControlsEnabled);
+    for (const auto &[key, button] :
+         {std::pair{Qt::Key_Up, ui->pushButtonPlug}, std::pair{Qt::Key_Down, ui->pushButtonMinus}}) {
+        auto *shortcut = new QShortcut(key, ui->lineEdit, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    }
 }
 
 void ModuleRtSet::setValue(double millimetres)

@@ -140,6 +140,7 @@ void SwitchTypePage::showNames()
         const QString name = tr(Offers.at(place).name);
         names.at(qsizetype(place))->setText(name);
         group->button(-FirstId - int(place))->setAccessibleName(name);
+        group->button(-FirstId - int(place))->setToolTip(name);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace travelcontrols {
 
@@ -17,6 +18,11 @@ void connectSteps(const TravelControls &controls, int step)
                      [slider, step] { slider->setValue(slider->value() - step); });
     QObject::connect(controls.plus, &QPushButton::clicked, slider,
                      [slider, step] { slider->setValue(slider->value() + step); });
+    for (const auto &[key, button] :
+         {std::pair{Qt::Key_Up, controls.plus}, std::pair{Qt::Key_Down, controls.minus}}) {
+        auto *shortcut = new QShortcut(key, controls.box, nullptr, nullptr, Qt::WidgetShortcut);
+        QObject::connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    }
     FocusRing::follow(controls.minus, look::PillRadius);
     FocusRing::follow(controls.plus, look::PillRadius);
     FocusRing::follow(controls.box, look::EditRadius);

@@ -17,7 +17,7 @@ struct TravelControls
 
 namespace travelcontrols {
 
-/// Lets the buttons take \a step from the slider's value and add it, and gives all but the slider, which has
+/// Lets the buttons, and the arrow keys in the box, take \a step from the slider's value and add it, and gives all but the slider, which has
 /// its own, a focus ring.
 void connectSteps(const TravelControls &controls, int step);
 

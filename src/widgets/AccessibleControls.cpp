@@ -4,11 +4,16 @@
 #include "SuperLabel.h"
 
 #include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMouseEvent>
 #include <QVariant>
 
 namespace {
 
 constexpr auto DefaultNameProperty = "defaultAccessibleName";
+constexpr auto RoleProperty = "accessibleRole";
+constexpr auto OnProperty = "accessibleOn";
 
 /// A picture label that is pressed like a button.
 class AccessibleSuperLabel : public QAccessibleWidget
@@ -41,6 +46,53 @@ public:
 
 private:
     SuperLabel *label;
+};
+
+/// A control of a class that says nothing of what it is.
+class AccessibleByRole : public QAccessibleWidget
+{
+public:
+    explicit AccessibleByRole(QWidget *shown)
+        : QAccessibleWidget(shown, QAccessible::Role(shown->property(RoleProperty).toInt()))
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString told = QAccessibleWidget::text(kind);
+        const auto *label = qobject_cast<QLabel *>(widget());
+        return kind == QAccessible::Name && told.isEmpty() && label ? label->text() : told;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        const QVariant on = widget()->property(OnProperty);
+        if (on.isValid() && role() == QAccessible::ListItem) {
+            state.selectable = true;
+            state.selected = on.toBool();
+        } else if (on.isValid()) {
+            state.checkable = true;
+            state.checked = on.toBool();
+        }
+        return state;
+    }
+
+    QStringList actionNames() const override { return QAccessibleWidget::actionNames() << pressAction(); }
+
+    void doAction(const QString &action) override
+    {
+        if (action != pressAction()) {
+            QAccessibleWidget::doAction(action);
+            return;
+        }
+        const QPointF middle = QRectF(widget()->rect()).center();
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+            QMouseEvent event(type, middle, widget()->mapToGlobal(middle), Qt::LeftButton, held, {});
+            QCoreApplication::sendEvent(widget(), &event);
+        }
+    }
 };
 
 /// A wheel of texts reads as a spin box with the centre text as its value.
@@ -87,7 +139,8 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
         if (auto *wheel = qobject_cast<ModuleScrollValue *>(object))
             return new AccessibleWheel(wheel);
     }
-    return nullptr;
+    auto *widget = qobject_cast<QWidget *>(object);
+    return widget && widget->property(RoleProperty).isValid() ? new AccessibleByRole(widget) : nullptr;
 }
 
 } // namespace
@@ -99,6 +152,27 @@ void accessible::setDefaultName(QWidget *control, const QString &name)
         return;
     control->setProperty(DefaultNameProperty, name);
     control->setAccessibleName(name);
+}
+
+void accessible::setRole(QWidget *control, QAccessible::Role role)
+{
+    installRoles();
+    control->setProperty(RoleProperty, int(role));
+    // A label that got a text in its constructor is known as a mere label by now.
+    if (QAccessibleInterface *former = QAccessible::queryAccessibleInterface(control))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(former));
+}
+
+void accessible::setOn(QWidget *control, bool on)
+{
+    if (control->property(OnProperty) == QVariant(on))
+        return;
+    control->setProperty(OnProperty, on);
+    QAccessible::State changed;
+    changed.checked = true;
+    changed.selected = true;
+    QAccessibleStateChangeEvent notice(control, changed);
+    QAccessible::updateAccessibility(&notice);
 }
 
 void accessible::installRoles()

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QScrollArea>
 #include <QWidget>
 
 namespace {
@@ -85,6 +86,13 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
 void FocusRing::show()
 {
     QWidget *parent = control->parentWidget();
+    // Tab leads into an area also to what is scrolled away there.
+    for (QWidget *up = parent; up; up = up->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(up)) {
+            area->ensureWidgetVisible(control, ReachOut, ReachOut);
+            break;
+        }
+    }
     if (!parent || control->isWindow() || ring)
         return;
     ring = new RingWidget(parent, radius);

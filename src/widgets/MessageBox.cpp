@@ -14,10 +14,12 @@ namespace {
 constexpr int TitleTop = 22;
 constexpr int TitleHeight = 28;
 constexpr int TextTop = 66;
+constexpr int TextHeight = 40;
+constexpr int LeastText = 340; ///< width of the text
+constexpr int MostText = 480;
 
 const QString BoxStyle = look::sheet(QStringLiteral(
     "QLabel { color: @text; font-size: @body; }"
-    "QLabel#qt_msgbox_label { min-width: 340px; min-height: 40px; }"
     "QLabel#labelTitle { font-size: @section; font-weight: 600; }"
     "QPushButton { min-width: 92px; min-height: 34px; border: none; border-radius: 17px; padding: 0px 4px;"
     " background-color: @edit; color: @text; font-size: @body; }"
@@ -62,6 +64,10 @@ MessageBox::MessageBox(QWidget *parent, const QString &title, const QString &tex
     titleLabel->setTextFormat(Qt::PlainText);
     look::setStyleOnce(this, BoxStyle);
     layout()->setContentsMargins(look::Space8, TextTop, look::Space24, look::Space24); // the text is indented
+    auto *line = findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    line->ensurePolished();
+    const int needed = line->fontMetrics().horizontalAdvance(text) + look::Space4;
+    line->setMinimumSize(qBound(LeastText, needed, MostText), TextHeight); // a text in one line isn't cut
     dressButtons();
 }
 

@@ -15,7 +15,7 @@ namespace {
 constexpr std::array Models{"wired-500", "wired-2ff", "bluetooth"};
 constexpr int MostEvents = 24;
 constexpr int Layers = 4;
-constexpr auto ShortestTime = 5ms;
+constexpr auto ShortestTime = 2ms;
 constexpr auto EndTime = 100ms;
 
 Fault faultFrom(FuzzInput &input)

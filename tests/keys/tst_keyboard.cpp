@@ -3,6 +3,7 @@
 #include "KeyMatrix.h"
 #include "ModuleKeyboard.h"
 
+#include <limits>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -162,7 +163,7 @@ void TestKeyboard::anyValueIsTaken()
         keyboard.setKeyTooltip(byte, {}, QStringLiteral("body"), true);
         keyboard.setKeyBorder(byte, {});
         keyboard.setKeyValues2(byte, 1e30f, -1e30f);
-        keyboard.setKeyValues3(byte, 1e30f, -1e30f);
+        keyboard.setKeyValues3(byte, std::numeric_limits<float>::quiet_NaN(), -1e30f);
         keyboard.setKeyValues4(byte, 1e30f, -1e30f, true);
         keyboard.setKeyColor(byte, {});
         keyboard.markKeyHit(byte);

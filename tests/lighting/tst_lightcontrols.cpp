@@ -5,6 +5,7 @@
 #include "ModuleEfMode.h"
 #include "ScreenPipette.h"
 
+#include <limits>
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QComboBox>
@@ -107,6 +108,9 @@ void TestLightControls::pointerChoosesItsPixel()
         }
         QCOMPARE(size_t(selected.size()), 1 + places.size());
     }
+    ColorSquare square;
+    square.setHue(std::numeric_limits<double>::quiet_NaN());
+    QCOMPARE(square.hue(), 0.0);
 }
 
 void TestLightControls::everyChoiceIsReportedTwice()

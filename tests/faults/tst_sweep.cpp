@@ -17,7 +17,7 @@ namespace {
 constexpr auto Quiet = 1500ms;         ///< longer than any pause between two frames
 constexpr auto TimeOutOfPlug = 1000ms; ///< long enough to be noticed
 constexpr auto LongestRead = 60s;
-constexpr size_t FewFrames = 5;
+constexpr size_t FewFrames = 3;
 
 /// How far apart the frames are that meet a fault: each one in a whole sweep, which takes minutes.
 size_t stride(size_t frames)

@@ -112,7 +112,11 @@ void KeyPicker::setUp(const Parts &parts, int keyWidth)
     fillBlock(parts.extendedBlock, keys::PickerBlock::Extended, keyWidth, keyGroup);
     connect(keyGroup, &QButtonGroup::idClicked, this, [this](int usage) { pickKey(quint8(usage)); });
     tabRow = {parts.slotLabels[0], parts.slotLabels[1], parts.slotLabels[2], parts.ok, parts.cancel};
+    // The row follows the keys already if one goes round past the dialog; with a stop before them it has to
+    // move.
+    parts.card->setFocusPolicy(Qt::TabFocus);
     leadTabBehind(keyGroup->buttons().constLast());
+    parts.card->setFocusPolicy(Qt::NoFocus);
 }
 
 void KeyPicker::leadTabBehind(QWidget *last)

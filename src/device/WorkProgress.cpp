@@ -15,13 +15,15 @@ WorkProgress::WorkProgress(QObject *parent)
 void WorkProgress::queued(quint8 command, qsizetype queueLength)
 {
     waiting = int(queueLength);
+    const int question = command & AskBit ? 1 : 0;
     if (running && waiting > 1) {
         ++all;
+        questions += question;
         return;
     }
     // What an earlier work left in the queue counts as part of this one.
-    kind = command & AskBit ? Work::Reading : Work::Writing;
     all = waiting;
+    questions = question;
     running = true;
     Q_EMIT begun();
 }

@@ -19,8 +19,8 @@ public:
 
     explicit WorkProgress(QObject *parent = nullptr);
 
-    /// What the present work, or else the last one, began with.
-    Work work() const { return kind; }
+    /// What most of the present work, or else of the last one, is: a profile is set first, then read.
+    Work work() const { return 2 * questions > all ? Work::Reading : Work::Writing; }
     bool isRunning() const { return running; }
     int total() const { return all; }
     /// Commands of this work that went out, 0 to total().
@@ -40,8 +40,8 @@ Q_SIGNALS:
     void ended(WorkProgress::End how);
 
 private:
-    Work kind = Work::Writing;
     bool running = false;
     int all = 0;
+    int questions = 0;
     int waiting = 0;
 };

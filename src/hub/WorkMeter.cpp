@@ -41,8 +41,6 @@ void WorkMeter::show()
         if (progress.left() < FewestLeft)
             return;
         hideTimer.stop();
-        line->setAccessibleName(progress.work() == WorkProgress::Work::Reading ? tr("正在读取键盘")
-                                                                               : tr("正在写入键盘"));
         line->show();
     }
     showValue();
@@ -50,10 +48,14 @@ void WorkMeter::show()
 
 void WorkMeter::showValue()
 {
+    const QString work =
+        progress.work() == WorkProgress::Work::Reading ? tr("正在读取键盘") : tr("正在写入键盘");
+    if (line->accessibleName() != work)
+        line->setAccessibleName(work);
     line->setRange(0, progress.total());
     line->setValue(progress.done());
     const QString percent = QStringLiteral("%1%").arg(100 * progress.done() / progress.total());
-    const QString words = line->accessibleName() + QLatin1Char(' ') + percent;
+    const QString words = work + QLatin1Char(' ') + percent;
     const auto fits = [this](const QString &text) {
         return caption->fontMetrics().horizontalAdvance(text) <= caption->width();
     };

@@ -221,6 +221,8 @@ int main(int argc, char **argv)
         qputenv(place, home.path().toLocal8Bit());
     qputenv("LANGUAGE", "zh_CN");
     AppStart start(argc, argv);
+    for (const char *left : {"/macro", "/work"}) // by the run before
+        QDir(QCoreApplication::applicationDirPath() + QLatin1String(left)).removeRecursively();
     QDir().mkpath(QCoreApplication::applicationDirPath() + QStringLiteral("/config"));
     for (const QString &file : QDir(QStringLiteral(ORBE_DATA "/config")).entryList(QDir::Files)) {
         const QString copy = QCoreApplication::applicationDirPath() + QStringLiteral("/config/") + file;

@@ -42,6 +42,7 @@ private:
     void planPages();
     void planTray();
     void planOtherDevices();
+    void planSibling();
     void planTrouble();
     void planBoard();
     void planEnd();

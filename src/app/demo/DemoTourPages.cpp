@@ -8,9 +8,11 @@
 #include "Languages.h"
 #include "ModuleLangMenu.h"
 #include "PageSights.h"
+#include "Siblings.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -24,6 +26,13 @@ constexpr int CardPage = 0;
 constexpr int SiblingPage = 1;
 constexpr int NativePage = 2;
 const int AllDevices = int(DemoDesk::modelsWithCard().size());
+
+/// Without its driver program the device has a card, and no page.
+bool siblingIsThere()
+{
+    const QString root = siblingRoot(QCoreApplication::applicationDirPath());
+    return QFile::exists(root + QLatin1String(OrbeSiblings[CloudFamily].program));
+}
 
 int pageNumber()
 {
@@ -158,6 +167,16 @@ void DemoTour::planOtherDevices()
     act([this] { desk->plugOnly({QStringLiteral("cloud")}); });
     waitFor(QStringLiteral("its card"), [] { return devicesThere() == 1; });
     picture(QStringLiteral("cards-one"));
+    if (siblingIsThere())
+        planSibling();
+    act([this] { desk->plugOnly(DemoDesk::modelsWithCard()); });
+    waitFor(QStringLiteral("all the cards"),
+            [] { return pageNumber() == CardPage && devicesThere() == AllDevices; });
+}
+
+/// Its device is plugged in alone.
+void DemoTour::planSibling()
+{
     actOn(QStringLiteral("FrameDeviceShow"));
     waitFor(QStringLiteral("the page of the sibling driver"), [] { return pageNumber() == SiblingPage; });
     for (int i = 0; i < 4; ++i)
@@ -165,9 +184,6 @@ void DemoTour::planOtherDevices()
     picture(QStringLiteral("sibling"));
     act([this] { desk->plugOnly({}); });
     waitFor(QStringLiteral("the sibling's device to go"), [] { return pageNumber() == CardPage; });
-    act([this] { desk->plugOnly(DemoDesk::modelsWithCard()); });
-    waitFor(QStringLiteral("all the cards"),
-            [] { return pageNumber() == CardPage && devicesThere() == AllDevices; });
 }
 
 /// A keyboard that may not be opened: on its card, and on the page that a press on the card leads to.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QQueue>
 
@@ -32,6 +33,7 @@ private:
     void waitFor(const QString &what, Condition condition);
     void act(std::function<void()> action);
     void actOn(const QString &word);
+    void tryOn(const QString &word, QDeadlineTimer limit);
     void picture(const QString &name);
     void complain(const QString &fault);
 
